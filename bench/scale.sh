@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# Times `ovelt info` on generated FASTA alignments of growing size and prints, for each size,
+# the seconds, the read speed in MB/s, the speed of merely reading the file's bytes (cat), and
+# the peak memory with its ratio to the number of cells.
+#
+#   bench/scale.sh [BUILD_DIR] [SIZES...]
+# SIZES are NxL pairs; the default runs 100x10000 up to 2000x1000000 (needs ~4 GB of disk).
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+build=${1:-$here/../build/release}
+shift || true
+sizes=("$@")
+if [ ${#sizes[@]} -eq 0 ]; then
+  sizes=(100x10000 100x100000 1000x100000 100x1000000 500x1000000 1000x1000000 2000x1000000)
+fi
+ovelt=$build/src/ovelt
+gen=$build/bench/make_alignment
+work=${OVELT_BENCH_DIR:-$here/../build/bench-data}
+mkdir -p "$work"
+export OVELT_HOME=$work   # keep the recent-files list out of the user's directories
+
+printf '%-14s %10s %9s %9s %9s %10s %9s\n' size MB seconds MB/s cat_MB/s peak_MB B/cell
+for size in "${sizes[@]}"; do
+  n=${size%x*}; l=${size#*x}
+  file=$work/aln_${n}x${l}.fas
+  [ -f "$file" ] || "$gen" "$n" "$l" 42 "$file"
+  bytes=$(stat -c %s "$file")
+  cat "$file" > /dev/null   # warm the page cache for both timings
+  t0=$(date +%s.%N); cat "$file" > /dev/null; t1=$(date +%s.%N)
+  /usr/bin/time -f '%e %M' -o "$work/time.txt" "$ovelt" info "$file" > /dev/null
+  read -r secs kb < "$work/time.txt"
+  awk -v size="$size" -v bytes="$bytes" -v secs="$secs" -v kb="$kb" -v c0="$t0" -v c1="$t1" \
+      -v cells="$((n * l))" 'BEGIN {
+    mb = bytes / 1e6; cat = c1 - c0; if (cat <= 0) cat = 1e-6; if (secs <= 0) secs = 0.01;
+    printf "%-14s %10.1f %9.2f %9.1f %9.1f %10.1f %9.2f\n", size, mb, secs, mb / secs, mb / cat,
+           kb / 1024, kb * 1024 / cells }'
+done

@@ -1,0 +1,127 @@
+#pragma once
+// The state of the one open data file, in four layers: what the file held (file layer), the
+// sequences the user left included (included layer), the sequences of the running command
+// (selection layer), and the settings. Per-site and per-sequence arrays count from 1 and keep
+// an unused index 0, so that their indices read like the site and sequence numbers of reports.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/genetic_code.h"
+#include "core/seq_matrix.h"
+#include "core/sequence_set.h"
+
+namespace ovelt {
+
+inline constexpr int kNameWidth = 20;
+
+// Site classes (SiteInfo).
+enum SiteInfo : int16_t {
+  kMonomorphic = 0,
+  kSingletonSite = 1,
+  kInformativeSite = 2,
+  kThreeVariants = 3,
+  kFourVariants = 4,
+  kGapOrMissing = 5,
+};
+
+enum FileKindCode : int16_t {
+  kMega = 0,
+  kNbrf = 1,
+  kNexus = 2,
+  kPhylip = 3,
+  kFasta = 4,
+};
+
+// Pads or cuts a sequence name to the fixed 20-character field.
+[[nodiscard]] std::string FixedName(const std::string& name);
+
+struct RegionSelection {
+  int32_t RegionFrom = 1;
+  int32_t RegionTo = 0;  // 0: no file open, nothing selected
+};
+
+struct FormatAttributes {
+  int16_t Interleaved = 1;
+  int32_t BlockLength = 60;
+  char GapSymbol = '-';
+  int16_t MatchSymbolOn = 1;
+  char MatchSymbol = '.';
+  char MissingSymbol = '?';
+  int16_t NexusVersion = 0;
+  int16_t LineDelimiter = 1;
+  int16_t NucleotideType = 0;
+  int16_t GenomeState = 0;
+  int16_t ChromosomalLocation = 0;
+  int16_t GeneticCodeIndex = 1;
+  int16_t CodingAssigned = -1;
+};
+
+struct ActiveData {
+  // File layer.
+  std::string FilePath;
+  std::string FileName;
+  int16_t FileKind = kFasta;
+  int16_t TotalSeqs = 0;
+  int32_t NumSites = 0;
+  SeqMatrix RawMatrix;
+  std::vector<std::string> RawNames{""};  // 1..TotalSeqs, 20-character fields
+  std::vector<bool> SeqIncluded{false};   // 1..TotalSeqs
+  std::vector<int16_t> RawSiteClass{0};   // 1..NumSites
+
+  // Included layer.
+  int32_t NumSeqs = 0;
+  SeqMatrix IncMatrix;
+  std::vector<std::string> IncNames{""};
+  std::vector<int16_t> SiteClass{0};
+  std::vector<double> SiteDiversity{0.0};
+
+  // Selection layer.
+  int16_t SelSet1 = 0, SelSet2 = 0, SelSet3 = 0;
+  int32_t SelCount1 = 0, SelCount2 = 0, SelCount3 = 0;
+  SeqMatrix SelMatrix1, SelMatrix2, SelMatrix3;
+  std::vector<std::string> SelNames1{""}, SelNames2{""}, SelNames3{""};
+  // File sequence numbers of the selected sequences (1-based, index 0 unused); the report head
+  // lists them when not all candidates are used.
+  std::vector<int32_t> SelSeqNumbers1{0};
+  std::vector<int16_t> SelSiteClass1{0}, SelSiteClass2{0};
+  std::vector<double> SelSiteDiversity1{0.0}, SelSiteDiversity2{0.0};
+  int32_t SelOutCount = 0;
+  int32_t SelSites = 0;
+  // Left by the net-sites count for the caller to read straight after.
+  int32_t SegSites = 0;
+  double SumSiteDiversity = 0.0;
+
+  RegionSelection Region;
+  FormatAttributes Format;
+
+  // Sequence sets, 1..count (index 0 unused).
+  std::vector<PoblacionSecuencias> SequenceSets{PoblacionSecuencias{}};
+  [[nodiscard]] int32_t SetCount() const {
+    return static_cast<int32_t>(SequenceSets.size()) - 1;
+  }
+
+  // Coding map (per site, 1..NumSites).
+  std::vector<int16_t> CodonPosition{0};
+  std::vector<std::string> CodingFlag{""};
+  int32_t LastCodingSite = 0;
+  // Translation table of `Format.GeneticCodeIndex`, rebuilt with the coding tables.
+  GeneticCodeTable GeneticCode = BuildGeneticCode(1);
+  // Name of the assigned preferred/unpreferred codon table.
+  std::string PrefTableName = "NONE";
+
+  // Settings kept across files.
+  int16_t GapsInSets = 1;
+  bool GapsInWindow = false;
+  bool UseMutations = false;
+
+  // Command state.
+  int16_t Analysis = 0;
+  int16_t OpenFiles = 0;
+  int16_t ResultCode = 0;
+  // Name of the domain sets; none yet (reported by Data Information).
+  int32_t DomainCount = 0;
+};
+
+}  // namespace ovelt
