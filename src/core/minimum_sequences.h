@@ -1,0 +1,23 @@
+#pragma once
+// How many sequences each command needs, and the words of the refusal.
+
+#include <cstdint>
+#include <string>
+
+namespace ovelt {
+
+// 0 when `in_use` sequences are enough for command `analysis` (taken modulo 1000), else the
+// minimum the command needs.
+[[nodiscard]] int32_t MinimumSequences(int16_t analysis, int32_t in_use);
+
+// "At least 2 sequences are needed for the present analysis", two line breaks and
+// "Invalid Selection !" ("... 1 sequence is needed ..." for one).
+[[nodiscard]] std::string TooFewSequencesMessage(int32_t minimum);
+
+// The largest number of sequences a file may hold: `TotalSeqs` is a 16-bit count.
+inline constexpr int32_t kMaxTotalSeqs = 32767;
+[[nodiscard]] constexpr bool SequenceCountFits(int64_t seqs) {
+  return seqs >= 0 && seqs <= kMaxTotalSeqs;
+}
+
+}  // namespace ovelt

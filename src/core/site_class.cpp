@@ -1,0 +1,110 @@
+#include "core/site_class.h"
+
+#include <algorithm>
+#include <array>
+
+namespace ovelt {
+
+namespace {
+
+// Counts of A, C, G, T at one site; `gap` is set, and counting stops, at the first cell that is
+// not a nucleotide.
+struct NucleotideCounts {
+  std::array<int32_t, 4> count{};
+  bool gap = false;
+};
+
+NucleotideCounts CountColumn(const SeqMatrix& matrix, int32_t site, int32_t seqs) {
+  NucleotideCounts counts;
+  for (int32_t seq = 1; seq <= seqs; ++seq) {
+    switch (matrix.at(site, seq)) {
+      case 'A': ++counts.count[0]; break;
+      case 'C': ++counts.count[1]; break;
+      case 'G': ++counts.count[2]; break;
+      case 'T': ++counts.count[3]; break;
+      default:
+        counts.gap = true;
+        return counts;
+    }
+  }
+  return counts;
+}
+
+int16_t ClassFromCounts(const NucleotideCounts& counts) {
+  if (counts.gap) return kGapOrMissing;
+  const auto zeros = std::count(counts.count.begin(), counts.count.end(), 0);
+  switch (zeros) {
+    case 0: return kFourVariants;
+    case 1: return kThreeVariants;
+    case 2: {
+      const bool singleton =
+          std::find(counts.count.begin(), counts.count.end(), 1) != counts.count.end();
+      return singleton ? kSingletonSite : kInformativeSite;
+    }
+    default: return kMonomorphic;  // one variant, or no sequence at all
+  }
+}
+
+bool IsNucleotide(char cell) { return cell == 'A' || cell == 'C' || cell == 'G' || cell == 'T'; }
+
+int32_t SitesOf(const ActiveData& ad, const SeqMatrix& matrix) {
+  return std::min(ad.NumSites, matrix.sites());
+}
+
+}  // namespace
+
+int16_t ClassifyColumn(const SeqMatrix& matrix, int32_t site, int32_t seqs) {
+  if (seqs < 1) return kMonomorphic;
+  const char first = matrix.at(site, 1);
+  if (!IsNucleotide(first)) return kGapOrMissing;
+  int32_t seq = 2;
+  while (seq <= seqs && matrix.at(site, seq) == first) ++seq;
+  if (seq > seqs) return kMonomorphic;
+  return ClassFromCounts(CountColumn(matrix, site, seqs));
+}
+
+int16_t ClassifySubsetColumn(const SeqMatrix& matrix, int32_t site, int32_t seqs,
+                             int16_t wider_class, int16_t gaps_in_sets) {
+  if (wider_class == kMonomorphic) return kMonomorphic;
+  if (wider_class == kGapOrMissing && gaps_in_sets == 2) return kGapOrMissing;
+  return ClassFromCounts(CountColumn(matrix, site, seqs));
+}
+
+void ClassifyAllSites(ActiveData& ad) {
+  const int32_t seqs = std::min(ad.NumSeqs, ad.RawMatrix.seqs());
+  const int32_t sites = SitesOf(ad, ad.RawMatrix);
+  ad.SiteClass.assign(static_cast<size_t>(ad.NumSites) + 1, kMonomorphic);
+  for (int32_t site = 1; site <= sites; ++site) {
+    ad.SiteClass[static_cast<size_t>(site)] = ClassifyColumn(ad.RawMatrix, site, seqs);
+  }
+}
+
+namespace {
+
+void ClassifySubset(const ActiveData& ad, const SeqMatrix& matrix, int32_t seqs,
+                    const std::vector<int16_t>& wider, std::vector<int16_t>& out) {
+  seqs = std::min(seqs, matrix.seqs());
+  const int32_t sites = std::min<int32_t>(SitesOf(ad, matrix),
+                                          static_cast<int32_t>(wider.size()) - 1);
+  out.assign(static_cast<size_t>(ad.NumSites) + 1, kMonomorphic);
+  for (int32_t site = 1; site <= sites; ++site) {
+    out[static_cast<size_t>(site)] = ClassifySubsetColumn(
+        matrix, site, seqs, wider[static_cast<size_t>(site)], ad.GapsInSets);
+  }
+}
+
+}  // namespace
+
+void ReclassifyIncluded(ActiveData& ad) {
+  ClassifySubset(ad, ad.IncMatrix, ad.NumSeqs, ad.RawSiteClass, ad.SiteClass);
+}
+
+void ClassifySelection1(ActiveData& ad) {
+  ClassifySubset(ad, ad.SelMatrix1, ad.SelCount1, ad.SiteClass, ad.SelSiteClass1);
+}
+
+void ClassifySelection2(ActiveData& ad) {
+  ClassifySubset(ad, ad.SelMatrix2, ad.SelCount2, ad.SiteClass, ad.SelSiteClass2);
+}
+
+}  // namespace ovelt

@@ -1,0 +1,27 @@
+#pragma once
+// Per-site gene diversity (Nei 1987, unbiased form):
+//   h = (1 - sum over A, C, G, T of (count / n)^2) * n / (n - 1)
+// for a polymorphic site (classes 1 to 4), with n the sequences in use. Summed over a region it
+// gives the average number of nucleotide differences between two sequences (Tajima 1983).
+// A site of class 5 stores instead how many sequences in use carry "-" there ("?" does not
+// count), which the fixed-gap count reads; a monomorphic site stores 0.
+
+#include <cstdint>
+#include <vector>
+
+#include "core/active_data.h"
+
+namespace ovelt {
+
+// Value of one site of `matrix` over its first `seqs` sequences, given the site's class.
+[[nodiscard]] double SiteDiversityValue(const SeqMatrix& matrix, int32_t site, int32_t seqs,
+                                        int16_t site_class);
+
+// `SiteDiversity` over `IncMatrix` (`NumSeqs` sequences) and `SiteClass`.
+void ComputeSiteDiversity(ActiveData& ad);
+
+// `SelSiteDiversity1` (`SelSiteDiversity2`) over the first (second) selection and its classes.
+void DiversitySelection1(ActiveData& ad);
+void DiversitySelection2(ActiveData& ad);
+
+}  // namespace ovelt
