@@ -46,6 +46,7 @@ class ScriptedPlatform : public Platform {
   std::vector<RecordedBox> Boxes;
   std::vector<RecordedSaveDialog> SaveDialogs;
   std::vector<std::string> OpenDialogs;
+  std::vector<std::string> MegaQuestions;  // file names shown in the MEGA dialog
   std::vector<std::string> DialogsShown;
   std::vector<std::string> StatusTexts;
   std::vector<int> ProgressValues;
@@ -90,7 +91,8 @@ class ScriptedPlatform : public Platform {
     return OnDialog ? OnDialog(form_name) : false;
   }
 
-  std::optional<MegaOptions> AskMegaOptions(const std::string&) override {
+  std::optional<MegaOptions> AskMegaOptions(const std::string& file_name) override {
+    MegaQuestions.push_back(file_name);
     if (!MegaAnswers.empty()) {
       auto answer = MegaAnswers.front();
       MegaAnswers.pop_front();

@@ -1,0 +1,120 @@
+#include "formats/line_reader.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace ovelt {
+namespace {
+
+constexpr size_t kChunkBytes = size_t{1} << 20;
+
+size_t FindByte(const char* data, size_t from, size_t end, char byte) {
+  if (from >= end) return end;
+  const void* hit = std::memchr(data + from, byte, end - from);
+  return hit == nullptr ? end : static_cast<size_t>(static_cast<const char*>(hit) - data);
+}
+
+}  // namespace
+
+LineReader::LineReader(std::FILE* file, int64_t file_size, ReadProgress progress)
+    : file_(file), chunk_(kChunkBytes), total_(file_size), progress_(std::move(progress)) {
+  data_ = chunk_.data();
+}
+
+LineReader::LineReader(std::string_view bytes, ReadProgress progress)
+    : data_(bytes.data()),
+      end_(bytes.size()),
+      at_eof_(true),
+      total_(static_cast<int64_t>(bytes.size())),
+      progress_(std::move(progress)) {}
+
+bool LineReader::Refill() {
+  if (file_ == nullptr || at_eof_) return false;
+  // Keep the unfinished line: move it to the front, and make the buffer larger only when
+  // that line alone fills it.
+  const size_t kept = end_ - pos_;
+  if (kept > 0 && pos_ > 0) std::memmove(chunk_.data(), chunk_.data() + pos_, kept);
+  pos_ = 0;
+  end_ = kept;
+  if (end_ == chunk_.size()) chunk_.resize(chunk_.size() * 2);
+  data_ = chunk_.data();
+  const size_t wanted = chunk_.size() - end_;
+  const size_t got = std::fread(chunk_.data() + end_, 1, wanted, file_);
+  end_ += got;
+  if (got < wanted) at_eof_ = true;
+  marks_valid_ = false;
+  return got > 0;
+}
+
+bool LineReader::Next(std::string_view& line) {
+  for (;;) {
+    if (skip_lf_) {
+      if (pos_ == end_) Refill();
+      if (pos_ < end_ && data_[pos_] == '\n') {
+        ++pos_;
+        ++consumed_;
+      }
+      skip_lf_ = false;
+    }
+    if (pos_ == end_ && !Refill()) {
+      ReportProgress();
+      return false;
+    }
+    if (!marks_valid_ || next_cr_ < pos_) next_cr_ = FindByte(data_, pos_, end_, '\r');
+    if (!marks_valid_ || next_lf_ < pos_) next_lf_ = FindByte(data_, pos_, end_, '\n');
+    marks_valid_ = true;
+    const size_t line_end = std::min(next_cr_, next_lf_);
+    if (line_end == end_) {
+      if (!at_eof_) {
+        Refill();
+        continue;
+      }
+      // Last line of the data, without a line end.
+      line = std::string_view(data_ + pos_, end_ - pos_);
+      consumed_ += static_cast<int64_t>(end_ - pos_);
+      pos_ = end_;
+      ReportProgress();
+      return true;
+    }
+    line = std::string_view(data_ + pos_, line_end - pos_);
+    size_t next = line_end + 1;
+    if (data_[line_end] == '\r') {
+      if (next < end_) {
+        if (data_[next] == '\n') ++next;
+      } else {
+        skip_lf_ = true;  // the LF of a CR + LF may open the next chunk
+      }
+    }
+    consumed_ += static_cast<int64_t>(next - pos_);
+    pos_ = next;
+    ReportProgress();
+    return true;
+  }
+}
+
+void LineReader::Rewind() {
+  if (file_ != nullptr) {
+    std::fseek(file_, 0, SEEK_SET);
+    std::clearerr(file_);
+    pos_ = end_ = 0;
+    at_eof_ = false;
+  } else {
+    pos_ = 0;
+  }
+  skip_lf_ = false;
+  marks_valid_ = false;
+  consumed_ = 0;
+  next_report_at_ = 0;
+}
+
+void LineReader::ReportProgress() {
+  if (!progress_ || total_ <= 0 || consumed_ < next_report_at_) return;
+  const int percent = static_cast<int>(std::min<int64_t>(100, consumed_ * 100 / total_));
+  if (percent > last_percent_) {
+    last_percent_ = percent;
+    progress_(percent);
+  }
+  next_report_at_ = ((std::max(percent, last_percent_) + 1) * total_ + 99) / 100;
+}
+
+}  // namespace ovelt

@@ -1,0 +1,65 @@
+#pragma once
+// Splits a data file into lines ended by LF, CR + LF or CR alone, in any mix. Files are read
+// straight from disk in large chunks and never held whole in memory; a line is handed out as a
+// view into the chunk buffer, so no line is copied unless it straddles two chunks.
+//
+// Every line end is understood here, so no reader needs the file rewritten first: the old pass
+// that copied a LF-only file to a temporary ".ric" file with CR + LF line ends is not needed, and
+// no temporary file is ever created.
+
+#include <cstdint>
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "formats/read_file.h"
+
+namespace ovelt {
+
+class LineReader {
+ public:
+  // Reads the bytes of an open file (not owned; it stays open while the reader is used).
+  LineReader(std::FILE* file, int64_t file_size, ReadProgress progress = {});
+  // Reads bytes held in memory (not copied; they must outlive the reader).
+  explicit LineReader(std::string_view bytes, ReadProgress progress = {});
+
+  LineReader(const LineReader&) = delete;
+  LineReader& operator=(const LineReader&) = delete;
+
+  // The next line without its line end; false at the end of the data. The view stays valid
+  // until the next call.
+  bool Next(std::string_view& line);
+
+  // Back to the first line (the gauge does not go back).
+  void Rewind();
+
+  // Bytes of the data not yet handed out as lines (an upper bound of what is left to read).
+  [[nodiscard]] int64_t BytesLeft() const { return total_ - consumed_; }
+  [[nodiscard]] int64_t TotalBytes() const { return total_; }
+
+ private:
+  bool Refill();  // makes room and reads more; false when nothing more could be read
+  void ReportProgress();
+
+  std::FILE* file_ = nullptr;
+  std::vector<char> chunk_;    // file mode: buffer of read bytes
+  const char* data_ = nullptr;  // current bytes: [data_ + pos_, data_ + end_)
+  size_t pos_ = 0;
+  size_t end_ = 0;
+  bool at_eof_ = false;         // nothing more can be read into the buffer
+  bool skip_lf_ = false;        // last line ended in CR at the end of a chunk
+  // Cached positions of the next CR and LF at or after pos_ (end_ when none): each byte is
+  // searched once, so CR-only files cost no more than LF files.
+  size_t next_cr_ = 0;
+  size_t next_lf_ = 0;
+  bool marks_valid_ = false;
+
+  int64_t total_ = 0;
+  int64_t consumed_ = 0;
+  ReadProgress progress_;
+  int last_percent_ = -1;
+  int64_t next_report_at_ = 0;
+};
+
+}  // namespace ovelt

@@ -1,0 +1,37 @@
+// Line helpers of the PHYLIP reader.
+
+#include <string>
+#include <string_view>
+
+#include "formats/phylip_parts.h"
+
+namespace ovelt {
+
+bool IsEmptyLine(std::string_view line) {
+  return line.find_first_not_of(" \t") == std::string_view::npos;
+}
+
+bool NextNonEmptyLine(LineReader& in, std::string_view& line) {
+  while (in.Next(line)) {
+    if (!IsEmptyLine(line)) return true;
+  }
+  return false;
+}
+
+void RewindToData(LineReader& in) {
+  in.Rewind();
+  std::string_view header;
+  (void)in.Next(header);
+}
+
+std::string PhylipName(std::string_view line) {
+  std::string_view field = line.substr(0, 10);
+  const size_t last = field.find_last_not_of(' ');
+  return std::string(last == std::string_view::npos ? std::string_view() : field.substr(0, last + 1));
+}
+
+std::string_view PhylipCells(std::string_view line) {
+  return line.size() > 10 ? line.substr(10) : std::string_view();
+}
+
+}  // namespace ovelt

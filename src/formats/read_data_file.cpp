@@ -1,0 +1,88 @@
+// Opening a data file: find its kind from the first line and hand it to that kind's reader.
+// A reader either returns a complete file layer or throws; nothing is ever half returned.
+
+#include <cstdio>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <new>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#include "core/active_data.h"
+#include "formats/line_reader.h"
+#include "formats/read_file.h"
+#include "formats/read_messages.h"
+#include "formats/readers.h"
+
+namespace ovelt {
+namespace {
+
+using MegaQuestion = std::function<std::optional<MegaOptions>()>;
+
+LoadedFile ReadKind(LineReader& in, const std::string& path, std::optional<int> kind,
+                    const MegaQuestion& ask_mega) {
+  if (!kind) {
+    std::string_view first;
+    kind = DetectFileKind(in.Next(first) ? std::string(first) : std::string());
+    in.Rewind();
+  }
+  switch (*kind) {
+    case kNbrf:
+      return ReadNbrf(in, path);
+    case kFasta:
+      return ReadFasta(in, path);
+    case kPhylip:
+      return ReadPhylip(in, path);
+    case kNexus:
+      throw NexusNotYetReadable(NexusNotReadableText(path));
+    case kMega: {
+      const std::optional<MegaOptions> options = ask_mega();
+      if (!options) throw ReadCancelled();
+      return ReadMega(in, path, *options);
+    }
+    default:
+      throw ReadError(BadFormatText(path));
+  }
+}
+
+// Runs a read and turns a lack of memory into the system's own report.
+LoadedFile ReadGuarded(LineReader& in, const std::string& path, std::optional<int> kind,
+                       const MegaQuestion& ask_mega) {
+  try {
+    return ReadKind(in, path, kind, ask_mega);
+  } catch (const std::bad_alloc&) {
+    throw ReadError(kOutOfMemoryText);
+  } catch (const std::length_error&) {
+    throw ReadError(kOutOfMemoryText);
+  }
+}
+
+struct FileCloser {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+}  // namespace
+
+LoadedFile ReadDataFile(const std::string& path, Platform& platform,
+                        const ReadProgress& progress) {
+  std::error_code error;
+  if (std::filesystem::is_directory(path, error)) throw ReadError(FileNotOpenedText(path));
+  std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "rb"));
+  if (!file) throw ReadError(FileNotOpenedText(path));
+  const std::uintmax_t size = std::filesystem::file_size(path, error);
+  LineReader in(file.get(), error ? 0 : static_cast<int64_t>(size), progress);
+  const std::string file_name = std::filesystem::path(path).filename().string();
+  return ReadGuarded(in, path, std::nullopt,
+                     [&] { return platform.AskMegaOptions(file_name); });
+}
+
+LoadedFile ReadDataBuffer(std::string_view bytes, const std::string& display_path,
+                          std::optional<int> kind, const MegaOptions& mega,
+                          const ReadProgress& progress) {
+  LineReader in(bytes, progress);
+  return ReadGuarded(in, display_path, kind, [&] { return std::optional<MegaOptions>(mega); });
+}
+
+}  // namespace ovelt

@@ -1,0 +1,119 @@
+#include "formats/sequence_cells.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace ovelt {
+
+bool SequenceCells::Grow() {
+  if (count_ >= limit_) return false;
+  if (count_ < cells_.size()) return true;
+  // Doubling keeps enlargements rare for a first sequence of unknown length.
+  const size_t wanted = std::min(limit_, std::max<size_t>(cells_.size() * 2, 16384));
+  cells_.resize(wanted);
+  return true;
+}
+
+// The walk loop, kept in one place: it is the inner loop of every reader.
+struct CellWalker {
+  static WalkResult Walk(const CellTable& table, std::string_view text, SequenceCells& seq,
+                         const MatchRule& match, WalkState& state) {
+    const char* p = text.data();
+    const size_t n = text.size();
+    size_t i = 0;
+    size_t count = seq.count_;
+    char* out = seq.cells_.data();
+    size_t room = std::min(seq.cells_.size(), seq.limit_);
+
+    auto finish = [&](WalkEnd end, size_t pos, char ch) {
+      seq.count_ = count;
+      return WalkResult{end, pos, ch};
+    };
+    // Skips to just behind `close`, or to the end of the text with the comment left open.
+    auto skip_to = [&](char close, bool& open_flag) {
+      const void* hit = (i < n) ? std::memchr(p + i, close, n - i) : nullptr;
+      if (hit == nullptr) {
+        open_flag = true;
+        i = n;
+      } else {
+        open_flag = false;
+        i = static_cast<size_t>(static_cast<const char*>(hit) - p) + 1;
+      }
+    };
+
+    if (state.in_quote) skip_to('"', state.in_quote);
+    if (state.in_command) skip_to(';', state.in_command);
+
+    const uint8_t* codes = table.code.data();
+    while (i < n) {
+      // Runs of plain cells, eight at a time: the common case of every sequence line.
+      while (i + 8 <= n && count + 8 <= room) {
+        unsigned char eight[8];
+        unsigned special = 0;
+        for (int k = 0; k < 8; ++k) {
+          eight[k] = codes[static_cast<unsigned char>(p[i + k])];
+          special |= static_cast<unsigned>(eight[k] < kFirstStoredCell);
+        }
+        if (special != 0) break;
+        std::memcpy(out + count, eight, 8);
+        count += 8;
+        i += 8;
+      }
+      if (i >= n) break;
+      // One character by the full rules.
+      const char c = p[i];
+      const uint8_t code = table.of(c);
+      if (code >= kFirstStoredCell || code == kCellMatch) {
+        if (count == room) {
+          seq.count_ = count;
+          if (!seq.Grow()) return finish(WalkEnd::kFull, i, c);
+          out = seq.cells_.data();
+          room = std::min(seq.cells_.size(), seq.limit_);
+        }
+        if (code >= kFirstStoredCell) {
+          out[count++] = static_cast<char>(code);
+        } else if (match.mode == MatchRule::kCopy) {
+          out[count] = match.first[count];
+          ++count;
+        } else if (match.mode == MatchRule::kDefer) {
+          out[count++] = kDeferredMatchCell;
+        } else {
+          return finish(WalkEnd::kDotInFirst, i, c);
+        }
+        ++i;
+        continue;
+      }
+      switch (code) {
+        case kCellSkip:
+          ++i;
+          break;
+        case kCellStop:
+          return finish(WalkEnd::kStop, i, c);
+        case kCellQuote:
+          ++i;
+          skip_to('"', state.in_quote);
+          break;
+        case kCellCommand:
+          ++i;
+          skip_to(';', state.in_command);
+          break;
+        default:
+          return finish(WalkEnd::kRefused, i, UpperCase(c));
+      }
+    }
+    return finish(WalkEnd::kLineEnd, n, 0);
+  }
+};
+
+WalkResult WalkCells(const CellTable& table, std::string_view text, SequenceCells& cells,
+                     const MatchRule& match, WalkState& state) {
+  return CellWalker::Walk(table, text, cells, match, state);
+}
+
+size_t CountNonBlank(std::string_view text) {
+  size_t n = 0;
+  for (char c : text) n += (c != ' ' && c != '\t') ? 1 : 0;
+  return n;
+}
+
+}  // namespace ovelt
