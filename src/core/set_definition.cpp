@@ -42,6 +42,37 @@ ParsedSetDefinition Fail(ParsedSetDefinition parsed, std::string error) {
 
 }  // namespace
 
+ParsedSequenceList ParseSequenceList(const std::string& list, int32_t total_seqs,
+                                     const std::string& where) {
+  ParsedSequenceList parsed;
+  auto fail = [&parsed](std::string error) {
+    parsed.members.clear();
+    parsed.error = std::move(error);
+    return parsed;
+  };
+  for (const std::string& item : SplitItems(list)) {
+    if (item.empty()) return fail("Missing sequence number" + where);
+    const size_t dash = item.find('-');
+    const auto from = ParseNumber(TrimBlanks(item.substr(0, dash)));
+    const auto to = dash == std::string::npos ? from : ParseNumber(TrimBlanks(item.substr(dash + 1)));
+    if (!from || !to) return fail("Invalid sequence number \"" + item + "\"" + where);
+    if (*from > *to) return fail("Invalid range \"" + item + "\"" + where);
+    for (const int32_t number : {*from, *to}) {
+      if (number < 1 || number > total_seqs) {
+        return fail("Sequence number " + std::to_string(number) + where +
+                    " is out of range: the data file has " + std::to_string(total_seqs) +
+                    " sequences");
+      }
+    }
+    for (int32_t seq = *from; seq <= *to; ++seq) {
+      if (std::find(parsed.members.begin(), parsed.members.end(), seq) == parsed.members.end()) {
+        parsed.members.push_back(seq);
+      }
+    }
+  }
+  return parsed;
+}
+
 ParsedSetDefinition ParseSetDefinition(const std::string& text, int32_t total_seqs) {
   ParsedSetDefinition parsed;
   const size_t equals = text.find('=');
@@ -59,28 +90,10 @@ ParsedSetDefinition ParseSetDefinition(const std::string& text, int32_t total_se
     return Fail(parsed, *refusal);
   }
 
-  const std::string where = " in the definition of sequence set " + name;
-  for (const std::string& item : SplitItems(text.substr(equals + 1))) {
-    if (item.empty()) return Fail(parsed, "Missing sequence number" + where);
-    const size_t dash = item.find('-');
-    const auto from = ParseNumber(TrimBlanks(item.substr(0, dash)));
-    const auto to =
-        dash == std::string::npos ? from : ParseNumber(TrimBlanks(item.substr(dash + 1)));
-    if (!from || !to) return Fail(parsed, "Invalid sequence number \"" + item + "\"" + where);
-    if (*from > *to) return Fail(parsed, "Invalid range \"" + item + "\"" + where);
-    for (const int32_t number : {*from, *to}) {
-      if (number < 1 || number > total_seqs) {
-        return Fail(parsed, "Sequence number " + std::to_string(number) + where +
-                                " is out of range: the data file has " +
-                                std::to_string(total_seqs) + " sequences");
-      }
-    }
-    for (int32_t seq = *from; seq <= *to; ++seq) {
-      if (std::find(parsed.members.begin(), parsed.members.end(), seq) == parsed.members.end()) {
-        parsed.members.push_back(seq);
-      }
-    }
-  }
+  ParsedSequenceList list =
+      ParseSequenceList(text.substr(equals + 1), total_seqs, " in the definition of sequence set " + name);
+  if (!list.ok()) return Fail(parsed, list.error);
+  parsed.members = std::move(list.members);
   return parsed;
 }
 

@@ -18,6 +18,17 @@ struct ParsedSetDefinition {
   [[nodiscard]] bool ok() const { return error.empty(); }
 };
 
+struct ParsedSequenceList {
+  std::vector<int32_t> members;  // file sequence numbers, in the order written, each once
+  std::string error;             // empty when the list is good
+  [[nodiscard]] bool ok() const { return error.empty(); }
+};
+
+// Parses a LIST of sequence numbers and ranges "a-b" separated by commas; every number must
+// lie in 1..`total_seqs`. `where` ends the messages (" in the definition of sequence set X").
+[[nodiscard]] ParsedSequenceList ParseSequenceList(const std::string& list, int32_t total_seqs,
+                                                   const std::string& where = "");
+
 // Parses "NAME=LIST": LIST is a comma-separated list of sequence numbers and ranges "a-b"
 // (a <= b); blanks around items are ignored. The name must pass the check of the sets dialog
 // and be made of letters, digits and "_"; every number must lie in 1..`total_seqs`.

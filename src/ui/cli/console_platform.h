@@ -1,0 +1,46 @@
+#pragma once
+// The window layer of the command line: message boxes go to standard error under the title,
+// questions are answered by flags (--yes), file dialogs are replaced by arguments, and the
+// status line is shown on standard error only when asked for.
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+#include "ui/platform.h"
+
+namespace ovelt {
+
+class ConsolePlatform : public Platform {
+ public:
+  explicit ConsolePlatform(std::ostream& err);
+
+  MsgAnswer MessageBox(const std::string& text, MsgIcon icon, MsgButtons buttons,
+                       const std::string& title, bool default_second) override;
+  std::optional<std::string> OpenFileName(const std::string& title,
+                                          const std::string& filter) override;
+  std::optional<std::string> SaveFileName(const std::string& title, const std::string& filter,
+                                          const std::string& default_name) override;
+  std::optional<MegaOptions> AskMegaOptions(const std::string& file_name) override;
+  void SetStatusText(const std::string& text) override;
+  void SetProgress(int percent) override;
+  DateTime Now() override;
+  std::string ProgramDirectory() override;
+  std::string ConfigDirectory() override;
+
+  // Answers of the flags.
+  bool answer_yes = false;
+  bool show_status = false;
+  MegaOptions mega;
+  // The next save dialog returns this name (the --out/--session file); consumed once.
+  std::optional<std::string> save_name;
+
+  // How many boxes were shown, and whether one of them was a warning or error.
+  int boxes_shown = 0;
+  bool warned = false;
+
+ private:
+  std::ostream& err_;
+};
+
+}  // namespace ovelt
