@@ -4,70 +4,27 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <map>
 #include <regex>
-#include <sstream>
 
 #include "cli/cli_runner.h"
+#include "support/corpus_manifest.h"
 #include "support/temp_dir.h"
 
 namespace ovelt {
 namespace {
 
-struct ManifestRow {
-  std::string path, format, expected, notes;
-  int n = 0;
-  int length = 0;
-};
+using testing::ManifestRow;
+using testing::ReadManifest;
 
-std::vector<ManifestRow> ReadManifest() {
-  std::ifstream in(std::string(OVELT_TEST_DATA) + "/corpus/MANIFEST.tsv");
-  std::vector<ManifestRow> rows;
-  std::string line;
-  std::getline(in, line);  // header
-  while (std::getline(in, line)) {
-    std::vector<std::string> cells;
-    std::stringstream ss(line);
-    std::string cell;
-    while (std::getline(ss, cell, '\t')) cells.push_back(cell);
-    cells.resize(12);
-    ManifestRow row;
-    row.path = cells[0];
-    row.format = cells[4];
-    row.expected = cells[6];
-    row.n = cells[7].empty() ? 0 : std::stoi(cells[7]);
-    row.length = cells[8].empty() ? 0 : std::stoi(cells[8]);
-    row.notes = cells[11];
-    rows.push_back(row);
-  }
-  return rows;
-}
-
-// The answers of the MEGA dialog the manifest's notes assume.
+// The answers of the MEGA dialog the manifest's notes assume, as options.
 std::vector<std::string> MegaArgs(const std::string& notes) {
-  std::vector<std::string> args;
-  std::smatch m;
-  if (std::regex_search(notes, m, std::regex("MEGA dialog: (Sequential|Interleaved), Matching "
-                                             "'(.)', Gap '(.)', Missing '(.)'"))) {
-    args = {"--mega-layout", m[1] == "Interleaved" ? "interleaved" : "sequential",
-            "--mega-match",  m[2],
-            "--mega-gap",    m[3],
-            "--mega-missing", m[4]};
-  }
-  return args;
+  const auto mega = testing::MegaAnswersFromNotes(notes);
+  if (!mega) return {};
+  return {"--mega-layout", mega->Layout == 1 ? "interleaved" : "sequential",
+          "--mega-match", std::string(1, mega->MatchSymbol),
+          "--mega-gap", std::string(1, mega->GapSymbol),
+          "--mega-missing", std::string(1, mega->MissingSymbol)};
 }
-
-// Where the format's own definition keeps data that a literal reading would drop, the reader
-// follows the format (see the readers' comments); these files' expectations change with it.
-const std::map<std::string, std::pair<int, int>> kSupersetReadings = {
-    {"mega/emboss_test1.mega", {3, 36}},
-    {"phylip/bioperl_noninterleaved.phy", {4, 297}},
-    {"mega/mega_HLA-3Seq.meg", {3, 822}},
-    // Its first two sequences start their cells on the next line, the rest on the name line:
-    // keeping the cells of name lines makes it a well-formed sequential file.
-    {"mega/mega_D-loop_Vigilant.meg", {70, 633}},
-};
 
 std::string InfoValue(const std::string& out, const std::string& label) {
   std::smatch m;
@@ -87,11 +44,12 @@ TEST(CorpusThroughInfo, EveryFileLoadsOrIsRefusedAsExpected) {
     const testing::CliResult r = testing::RunOvelt(args, home.Path().string());
 
     bool loads = row.expected == "loads";
-    int n = row.n, length = row.length;
-    if (auto it = kSupersetReadings.find(row.path); it != kSupersetReadings.end()) {
+    int n = row.seqs, length = row.sites;
+    if (auto it = testing::kUpdatedExpectations.find(row.path);
+        it != testing::kUpdatedExpectations.end()) {
       loads = true;
-      n = it->second.first;
-      length = it->second.second;
+      n = it->second.seqs;
+      length = it->second.sites;
     }
     if (row.format == "NEXUS" && r.status != 0) {
       ++nexus;

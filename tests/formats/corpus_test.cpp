@@ -14,6 +14,7 @@
 
 #include "formats/read_file.h"
 #include "formats/read_messages.h"
+#include "support/corpus_manifest.h"
 #include "support/scripted_platform.h"
 #include "test_helpers.h"
 
@@ -23,81 +24,13 @@ namespace {
 using testing::Row;
 using testing::ScriptedPlatform;
 
-const std::string kCorpus = std::string(OVELT_TEST_DATA) + "/corpus/";
+using testing::kCorpusDir;
+using testing::ManifestRow;
+using testing::MegaAnswersFromNotes;
+using testing::ReadManifest;
 
-struct ManifestRow {
-  std::string path;
-  std::string format;
-  std::string expected;
-  int seqs = 0;
-  int sites = 0;
-  long bytes = 0;
-  std::string notes;
-};
-
-std::vector<std::string> SplitTabs(const std::string& line) {
-  std::vector<std::string> fields;
-  std::string field;
-  std::istringstream in(line);
-  while (std::getline(in, field, '\t')) fields.push_back(field);
-  if (!line.empty() && line.back() == '\t') fields.emplace_back();
-  return fields;
-}
-
-std::vector<ManifestRow> ReadManifest() {
-  std::ifstream in(kCorpus + "MANIFEST.tsv");
-  std::vector<ManifestRow> rows;
-  std::string line;
-  std::getline(in, line);  // column names
-  while (std::getline(in, line)) {
-    if (line.empty()) continue;
-    const std::vector<std::string> f = SplitTabs(line);
-    if (f.size() < 12) continue;
-    ManifestRow row;
-    row.path = f[0];
-    row.format = f[4];
-    row.expected = f[6];
-    row.seqs = f[7].empty() ? 0 : std::stoi(f[7]);
-    row.sites = f[8].empty() ? 0 : std::stoi(f[8]);
-    row.bytes = std::stol(f[10]);
-    row.notes = f[11];
-    rows.push_back(row);
-  }
-  return rows;
-}
-
-// The answers of the "MEGA Data File" dialog that the notes give, e.g.
-// "MEGA dialog: Interleaved, Matching 'i', Gap '-', Missing '?'".
-std::optional<MegaOptions> MegaAnswersFromNotes(const std::string& notes) {
-  static const std::regex pattern(
-      "MEGA dialog: (Sequential|Interleaved), Matching '(.)', Gap '(.)', Missing '(.)'");
-  std::smatch m;
-  if (!std::regex_search(notes, m, pattern)) return std::nullopt;
-  MegaOptions options;
-  options.Layout = m[1] == "Interleaved" ? 1 : 0;
-  options.MatchSymbol = m[2].str()[0];
-  options.GapSymbol = m[3].str()[0];
-  options.MissingSymbol = m[4].str()[0];
-  return options;
-}
-
-// Where the format's own definition reads more than the literal rules, the file loads; these
-// three expectations replace the manifest's.
-struct Override {
-  int seqs;
-  int sites;
-};
-const std::map<std::string, Override> kUpdated = {
-    // Cells on the "#name" lines are kept: 18 there plus 18 on the next line.
-    {"mega/emboss_test1.mega", {3, 36}},
-    // "!Label" and "!Domain" command statements between the blocks are skipped.
-    {"mega/mega_HLA-3Seq.meg", {3, 822}},
-    // Indented continuation lines in blank-separated groups: sequential by the counts.
-    {"phylip/bioperl_noninterleaved.phy", {4, 297}},
-    // Follows from the first: its first two sequences have their cells on the next line, the
-    // other 68 on the "#name" line, and all 70 have 633 cells.
-    {"mega/mega_D-loop_Vigilant.meg", {70, 633}},
-};
+const std::string& kCorpus = kCorpusDir;
+const auto& kUpdated = testing::kUpdatedExpectations;
 
 // The report sentence that the manifest's reason names.
 std::string ExpectedSentence(const ManifestRow& row) {
@@ -134,7 +67,6 @@ std::string ExpectedSentence(const ManifestRow& row) {
   return "?";
 }
 
-void PrintTo(const ManifestRow& row, std::ostream* out) { *out << row.path; }
 
 class CorpusTest : public ::testing::TestWithParam<ManifestRow> {};
 
