@@ -13,6 +13,7 @@
 #include "core/shell/refusals.h"
 #include "core/site_scan.h"
 #include "formats/read_file.h"
+#include "formats/read_messages.h"
 
 namespace ovelt {
 
@@ -120,8 +121,7 @@ bool Workbench::Load(const std::string& path) {
   }
   if (file.NumSeqs() == 0) {
     SetStatus(0);
-    platform_.MessageBox("Input data file: " + path + "\n\nBad or unknown file format",
-                         MsgIcon::kWarning);
+    platform_.MessageBox(BadFormatText(path), MsgIcon::kWarning);
     return false;
   }
 
