@@ -1,0 +1,96 @@
+#include "ui/cli/data_commands.h"
+
+#include <CLI/CLI.hpp>
+
+#include <ostream>
+
+#include "core/shell/command_table.h"
+#include "core/shell/data_information.h"
+#include "core/shell/workbench.h"
+#include "ui/cli/cli_registry.h"
+#include "ui/cli/console_platform.h"
+#include "ui/cli/file_job.h"
+#include "ui/cli/site_view.h"
+
+namespace ovelt {
+
+namespace {
+
+int RunInfo(const FileJob& job, const CliStreams& s) {
+  ConsolePlatform platform(s.err);
+  Workbench wb(platform);
+  if (!OpenJob(job, wb, platform, s.err)) return kCliRefused;
+  const std::vector<InfoRow> rows = DataInformationRows(wb.Data());
+  OutputChannel& channel = wb.Output();
+  channel.ResetOutputs();
+  channel.AppendText(DataInformationText(rows));
+  channel.Grid1.ColumnTitles = {"", kDataInformationTitle};
+  for (const auto& [label, value] : rows) channel.Grid1.Rows.push_back({label, value});
+  channel.ResultTitle = kDataInformationTitle;
+  channel.ShowResult(kResultTextOnly);
+  return FinishOutput(job.output, wb, kDataInformationTitle, s.out) ? kCliDone : kCliRefused;
+}
+
+int RunSites(const FileJob& job, const SiteViewOptions& view, const CliStreams& s) {
+  ConsolePlatform platform(s.err);
+  Workbench wb(platform);
+  if (!OpenJob(job, wb, platform, s.err)) return kCliRefused;
+  if (!RunSiteView(wb, view)) return kCliRefused;
+  return FinishOutput(job.output, wb, "Site Classes", s.out) ? kCliDone : kCliRefused;
+}
+
+int RunCheck(const std::string& command, const FileJob& job, const CliStreams& s) {
+  const CommandRow* row = FindCommand(command);
+  if (row == nullptr) {
+    s.err << "Unknown command \"" << command << "\"; `ovelt commands` lists them.\n";
+    return kCliUsage;
+  }
+  ConsolePlatform platform(s.err);
+  Workbench wb(platform);
+  if (!job.file.empty() && !OpenJob(job, wb, platform, s.err)) return kCliRefused;
+  const MenuEntry* entry = wb.Menus().FindCommand(row->number);
+  if (entry == nullptr || !entry->enabled) {
+    s.err << "Ovelt:\nThe command \"" << row->title << "\" is not available "
+          << (wb.FileOpen() ? "while a data file is open" : "without an open data file")
+          << ".\n";
+    return kCliRefused;
+  }
+  if (!wb.BeginCommand(row->number)) return kCliRefused;
+  s.out << "Command " << row->number << " \"" << row->title
+        << "\": the checks before its dialog (" << row->checks_text
+        << ") pass; its dialog is " << row->dialog << ".\n";
+  wb.EndCommand();
+  return kCliDone;
+}
+
+}  // namespace
+
+void AddDataCommands(CliRegistry& registry) {
+  auto& info_job = registry.Keep<FileJob>();
+  AddFileJob(registry.Add("info", "Open a data file and print its Data Information",
+                          [&info_job](const CliStreams& s) { return RunInfo(info_job, s); }),
+             info_job);
+
+  auto& sites_job = registry.Keep<FileJob>();
+  auto& view = registry.Keep<SiteViewOptions>();
+  CLI::App& sites = registry.Add(
+      "sites",
+      "Select sequences and a region and report the site classes of the selection: the report "
+      "head, net sites, segregating sites, per-site classes and diversities (--grid)",
+      [&sites_job, &view](const CliStreams& s) { return RunSites(sites_job, view, s); });
+  AddFileJob(sites, sites_job);
+  AddSiteViewOptions(sites, view);
+
+  auto& check_job = registry.Keep<FileJob>();
+  auto& check_command = registry.Keep<std::string>();
+  CLI::App& check = registry.Add(
+      "check", "Run the checks a command makes before its dialog opens (refusals)",
+      [&check_job, &check_command](const CliStreams& s) {
+        return RunCheck(check_command, check_job, s);
+      });
+  check.add_option("COMMAND", check_command, "Command number, name or title")->required();
+  check.add_option("FILE", check_job.file, "Alignment file");
+  AddDataOptions(check, check_job.data);
+}
+
+}  // namespace ovelt
