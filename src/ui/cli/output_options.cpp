@@ -60,11 +60,13 @@ bool BeginSession(const OutputOptions& o, Workbench& wb, ConsolePlatform&) {
 }
 
 bool FinishOutput(const OutputOptions& o, Workbench& wb, const std::string& title,
-                  std::ostream& out) {
+                  std::ostream& out, bool print_text) {
   OutputChannel& channel = wb.Output();
   if (channel.ResultTitle.empty()) channel.ResultTitle = title;
-  out << WithNewlines(channel.TextBuffer);
-  out.flush();
+  if (print_text) {
+    out << WithNewlines(channel.TextBuffer);
+    out.flush();
+  }
   bool ok = true;
   if (!o.out.empty()) ok = channel.SaveCurrentOutput(o.out) && ok;
   if (!o.grid.empty()) ok = WriteGridTsv(channel.Grid1, o.grid, wb.Ui()) && ok;

@@ -27,7 +27,8 @@ bool BeginSession(const OutputOptions& options, Workbench& wb, ConsolePlatform& 
 
 // Prints the text of the result that stands, writes the files asked for, closes the session.
 // `title` names the result where no analysis code does. False when a file could not be written.
+// `print_text` false keeps standard output for something else (JSON).
 bool FinishOutput(const OutputOptions& options, Workbench& wb, const std::string& title,
-                  std::ostream& out);
+                  std::ostream& out, bool print_text = true);
 
 }  // namespace ovelt
