@@ -37,6 +37,12 @@ enum FileKindCode : int16_t {
 // Pads or cuts a sequence name to the fixed 20-character field.
 [[nodiscard]] std::string FixedName(const std::string& name);
 
+// One domain: a named list of site numbers, ascending, each once.
+struct DomainSet {
+  std::string Name;
+  std::vector<int32_t> Sites;
+};
+
 struct RegionSelection {
   int32_t RegionFrom = 1;
   int32_t RegionTo = 0;  // 0: no file open, nothing selected
@@ -120,8 +126,9 @@ struct ActiveData {
   int16_t Analysis = 0;
   int16_t OpenFiles = 0;
   int16_t ResultCode = 0;
-  // Name of the domain sets; none yet (reported by Data Information).
-  int32_t DomainCount = 0;
+  // Domains (NEXUS CHARSETs): named lists of sites, for the multi-domain overview.
+  std::vector<DomainSet> Domains;
+  [[nodiscard]] int32_t DomainCount() const { return static_cast<int32_t>(Domains.size()); }
 };
 
 }  // namespace ovelt

@@ -35,8 +35,8 @@ std::vector<InfoRow> DataInformationRows(const ActiveData& d) {
       {"Preferred Codons Table", d.PrefTableName},
       {"Sequence Sets Definition", sets > 0 ? "Yes" : "No"},
       {"   Total Number of Subsets", sets > 0 ? std::to_string(sets) : "---"},
-      {"Domain Sets Definition", d.DomainCount > 0 ? "Yes" : "No"},
-      {"   Total Number of Domains", d.DomainCount > 0 ? std::to_string(d.DomainCount) : "---"},
+      {"Domain Sets Definition", d.DomainCount() > 0 ? "Yes" : "No"},
+      {"   Total Number of Domains", d.DomainCount() > 0 ? std::to_string(d.DomainCount()) : "---"},
   };
 }
 
