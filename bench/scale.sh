@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Times `ovelt info` on generated FASTA alignments of growing size and prints, for each size,
-# the seconds, the read speed in MB/s, the speed of merely reading the file's bytes (cat), and
+# the wall-clock seconds, the CPU seconds (user + system: the honest figure on a busy machine),
+# the read speed in MB per CPU second, the speed of merely reading the file's bytes (cat), and
 # the peak memory with its ratio to the number of cells.
 #
 #   bench/scale.sh [BUILD_DIR] [SIZES...]
@@ -19,7 +20,7 @@ work=${OVELT_BENCH_DIR:-$here/../build/bench-data}
 mkdir -p "$work"
 export OVELT_HOME=$work   # keep the recent-files list out of the user's directories
 
-printf '%-14s %10s %9s %9s %9s %10s %9s\n' size MB seconds MB/s cat_MB/s peak_MB B/cell
+printf '%-14s %10s %9s %9s %9s %9s %10s %9s\n' size MB seconds cpu_s MB/cpu_s cat_MB/s peak_MB B/cell
 for size in "${sizes[@]}"; do
   n=${size%x*}; l=${size#*x}
   file=$work/aln_${n}x${l}.fas
@@ -27,11 +28,12 @@ for size in "${sizes[@]}"; do
   bytes=$(stat -c %s "$file")
   cat "$file" > /dev/null   # warm the page cache for both timings
   t0=$(date +%s.%N); cat "$file" > /dev/null; t1=$(date +%s.%N)
-  /usr/bin/time -f '%e %M' -o "$work/time.txt" "$ovelt" info "$file" > /dev/null
-  read -r secs kb < "$work/time.txt"
-  awk -v size="$size" -v bytes="$bytes" -v secs="$secs" -v kb="$kb" -v c0="$t0" -v c1="$t1" \
-      -v cells="$((n * l))" 'BEGIN {
-    mb = bytes / 1e6; cat = c1 - c0; if (cat <= 0) cat = 1e-6; if (secs <= 0) secs = 0.01;
-    printf "%-14s %10.1f %9.2f %9.1f %9.1f %10.1f %9.2f\n", size, mb, secs, mb / secs, mb / cat,
-           kb / 1024, kb * 1024 / cells }'
+  /usr/bin/time -f '%e %U %S %M' -o "$work/time.txt" "$ovelt" info "$file" > /dev/null
+  read -r secs user sys kb < "$work/time.txt"
+  awk -v size="$size" -v bytes="$bytes" -v secs="$secs" -v user="$user" -v sys="$sys" \
+      -v kb="$kb" -v c0="$t0" -v c1="$t1" -v cells="$((n * l))" 'BEGIN {
+    mb = bytes / 1e6; cat = c1 - c0; if (cat <= 0) cat = 1e-6; cpu = user + sys;
+    if (cpu <= 0) cpu = 0.01;
+    printf "%-14s %10.1f %9.2f %9.2f %9.1f %9.1f %10.1f %9.2f\n", size, mb, secs, cpu, mb / cpu,
+           mb / cat, kb / 1024, kb * 1024 / cells }'
 done
