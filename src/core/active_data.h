@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/genetic_code.h"
+#include "core/pref_tables.h"
 #include "core/seq_matrix.h"
 #include "core/sequence_set.h"
 
@@ -114,8 +115,10 @@ struct ActiveData {
   int32_t LastCodingSite = 0;
   // Translation table of `Format.GeneticCodeIndex`, rebuilt with the coding tables.
   GeneticCodeTable GeneticCode = BuildGeneticCode(1);
-  // Name of the assigned preferred/unpreferred codon table.
-  std::string PrefTableName = "NONE";
+  // The preferred/unpreferred codon tables (built-in ones and those of the file), and the name
+  // of the table assigned to the data ("None" when none is).
+  GCPrefUnPref PrefTables;
+  std::string PrefTableName = kNoPrefTable;
 
   // Settings kept across files.
   int16_t GapsInSets = 1;

@@ -36,7 +36,7 @@ LoadedFile ReadKind(LineReader& in, const std::string& path, std::optional<int> 
     case kPhylip:
       return ReadPhylip(in, path);
     case kNexus:
-      throw NexusNotYetReadable(NexusNotReadableText(path));
+      return ReadNexus(in, path);
     case kMega: {
       const std::optional<MegaOptions> options = ask_mega();
       if (!options) throw ReadCancelled();

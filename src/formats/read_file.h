@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "core/seq_matrix.h"
+#include "formats/nexus_extras.h"
 #include "ui/platform.h"
 
 namespace ovelt {
@@ -27,6 +28,8 @@ struct LoadedFile {
   // MEGA symbols chosen in the "MEGA Data File" dialog (MEGA files only).
   bool HasMegaSymbols = false;
   char MatchSymbol = '.', GapSymbol = '-', MissingSymbol = '?';
+  // Everything else a NEXUS file holds (NEXUS files only): see ApplyNexusExtras.
+  std::optional<NexusExtras> Nexus;
 
   [[nodiscard]] int32_t NumSeqs() const { return static_cast<int32_t>(Names.size()) - 1; }
 };
@@ -35,12 +38,6 @@ struct LoadedFile {
 class ReadError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
-};
-
-// A NEXUS file: recognised, but not read by this version. Callers can tell it from other failures.
-class NexusNotYetReadable : public ReadError {
- public:
-  using ReadError::ReadError;
 };
 
 // The user cancelled a dialog of the reader (the MEGA dialog): the open ends silently.

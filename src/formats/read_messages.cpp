@@ -49,10 +49,4 @@ std::string FileNotOpenedText(const std::string& path) {
   return "Input data file:  " + path + " File not found or already open";
 }
 
-std::string NexusNotReadableText(const std::string& path) {
-  return DataFileErrorText(path,
-                           "This is a NEXUS data file. Reading NEXUS data files is not available "
-                           "in this version.");
-}
-
 }  // namespace ovelt

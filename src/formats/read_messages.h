@@ -45,7 +45,5 @@ inline constexpr const char* kOutOfMemoryText =
 [[nodiscard]] std::string PhylipDistancesText(const std::string& path);
 // A file that could not be opened.
 [[nodiscard]] std::string FileNotOpenedText(const std::string& path);
-// A NEXUS file, which this version does not read.
-[[nodiscard]] std::string NexusNotReadableText(const std::string& path);
 
 }  // namespace ovelt

@@ -15,5 +15,6 @@ namespace ovelt {
 [[nodiscard]] LoadedFile ReadMega(LineReader& in, const std::string& path,
                                   const MegaOptions& options);
 [[nodiscard]] LoadedFile ReadPhylip(LineReader& in, const std::string& path);
+[[nodiscard]] LoadedFile ReadNexus(LineReader& in, const std::string& path);
 
 }  // namespace ovelt

@@ -13,6 +13,7 @@
 #include "core/shell/refusals.h"
 #include "core/site_scan.h"
 #include "formats/read_file.h"
+#include "formats/nexus_extras.h"
 #include "formats/read_messages.h"
 
 namespace ovelt {
@@ -119,6 +120,8 @@ bool Workbench::Load(const std::string& path) {
     platform_.MessageBox(error.what(), MsgIcon::kWarning);
     return false;
   }
+  std::vector<std::string> warnings;
+  if (file.Nexus) warnings = file.Nexus->Warnings;
   if (file.NumSeqs() == 0) {
     SetStatus(0);
     platform_.MessageBox(BadFormatText(path), MsgIcon::kWarning);
@@ -135,6 +138,8 @@ bool Workbench::Load(const std::string& path) {
   }
   SetStatus(0);
   RefreshTitle();
+  // Warnings of a NEXUS read come after the file is open: they do not stop the read.
+  for (const std::string& warning : warnings) platform_.MessageBox(warning, MsgIcon::kWarning);
   return true;
 }
 
@@ -182,6 +187,7 @@ void Workbench::CommitLoadedFile(LoadedFile&& file, const std::string& path) {
   }
   // 5. Count the open file.
   next.OpenFiles = static_cast<int16_t>(next.OpenFiles + 1);
+  if (next.FileKind == kNexus && file.Nexus) ApplyNexusExtras(*file.Nexus, next);
   // 6. Per-site diversity over the included sequences.
   ComputeSiteDiversity(next);
   // 7. Coding tables.
@@ -191,6 +197,8 @@ void Workbench::CommitLoadedFile(LoadedFile&& file, const std::string& path) {
   next.SelSites = next.NumSites;
 
   data_ = std::move(next);
+  nexus_document_.reset();
+  if (file.Nexus) nexus_document_ = std::move(file.Nexus->Document);
   menus_.ActivarMenu(11, data_.FileKind);
   if (data_.FileKind == kNexus)
     menus_.SetText("MenuUpdateNEXUS_Click", "Update NEXUS Data File:  " + data_.FileName);
@@ -216,6 +224,7 @@ bool Workbench::CloseFile(bool ask) {
     return false;
   output_.ResetOutputs();
   ResetLayers();
+  nexus_document_.reset();
   menus_.ActivarMenu(12, 0);
   menus_.SetText("MenuUpdateNEXUS_Click", "Update NEXUS Data File");
   RefreshTitle();

@@ -10,6 +10,7 @@
 #include "core/active_data.h"
 #include "core/shell/menu_model.h"
 #include "core/shell/recent_files.h"
+#include "formats/nexus_document.h"
 #include "output/output_channel.h"
 #include "ui/platform.h"
 
@@ -40,6 +41,8 @@ class Workbench {
   [[nodiscard]] RecentFiles& Recent() { return recent_; }
   [[nodiscard]] Platform& Ui() { return platform_; }
   [[nodiscard]] bool FileOpen() const { return data_.OpenFiles > 0; }
+  // The blocks of the open NEXUS file as they stood, for "Update NEXUS Data File".
+  [[nodiscard]] const std::optional<NexusDocument>& NexusBlocks() const { return nexus_document_; }
 
   // fbLeerTodo: index 0 asks the platform's open dialog, index k takes recent entry k.
   [[nodiscard]] std::optional<std::string> fbLeerTodo(int index);
@@ -82,6 +85,7 @@ class Workbench {
   OutputChannel output_;
   MenuModel menus_;
   RecentFiles recent_;
+  std::optional<NexusDocument> nexus_document_;
 };
 
 }  // namespace ovelt

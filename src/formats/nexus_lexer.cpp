@@ -1,0 +1,134 @@
+#include "formats/nexus_lexer.h"
+
+#include "core/text_case.h"
+
+namespace ovelt {
+
+bool IsNexusPunctuation(char c) {
+  switch (c) {
+    case '(':
+    case ')':
+    case '[':
+    case ']':
+    case '{':
+    case '}':
+    case '/':
+    case '\\':
+    case ',':
+    case ';':
+    case ':':
+    case '=':
+    case '*':
+    case '\'':
+    case '"':
+    case '`':
+    case '<':
+    case '>':
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool NexusToken::is_word(std::string_view upper_text) const {
+  if (type != kWord || text.size() != upper_text.size()) return false;
+  for (size_t i = 0; i < text.size(); ++i) {
+    char c = text[i];
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    if (c != upper_text[i]) return false;
+  }
+  return true;
+}
+
+std::string NexusToken::upper() const { return ToUpperAscii(text); }
+
+size_t SkipNexusComment(std::string_view text, size_t pos) {
+  int depth = 0;
+  for (; pos < text.size(); ++pos) {
+    if (text[pos] == '[') {
+      ++depth;
+    } else if (text[pos] == ']') {
+      if (--depth == 0) return pos + 1;
+    }
+  }
+  return text.size();
+}
+
+void NexusLexer::SkipBlanksAndComments() {
+  while (pos_ < text_.size()) {
+    const char c = text_[pos_];
+    if (IsNexusBlank(c)) {
+      ++pos_;
+    } else if (c == '[') {
+      pos_ = SkipNexusComment(text_, pos_);
+    } else {
+      return;
+    }
+  }
+}
+
+NexusToken NexusLexer::Next() {
+  SkipBlanksAndComments();
+  NexusToken token;
+  token.begin = pos_;
+  if (pos_ >= text_.size()) {
+    token.end = pos_;
+    return token;
+  }
+  const char c = text_[pos_];
+  if (c == '\'' || c == '"') {
+    token.type = NexusToken::kQuoted;
+    ++pos_;
+    while (pos_ < text_.size()) {
+      if (text_[pos_] == c) {
+        if (pos_ + 1 < text_.size() && text_[pos_ + 1] == c) {
+          token.text += c;
+          pos_ += 2;
+          continue;
+        }
+        ++pos_;
+        break;
+      }
+      token.text += text_[pos_++];
+    }
+  } else if (IsNexusPunctuation(c)) {
+    token.type = NexusToken::kPunct;
+    token.text = std::string(1, c);
+    ++pos_;
+  } else {
+    token.type = NexusToken::kWord;
+    const size_t start = pos_;
+    while (pos_ < text_.size() && !IsNexusBlank(text_[pos_]) && !IsNexusPunctuation(text_[pos_]))
+      ++pos_;
+    token.text = std::string(text_.substr(start, pos_ - start));
+  }
+  token.end = pos_;
+  return token;
+}
+
+NexusToken NexusLexer::Peek() {
+  const size_t saved = pos_;
+  NexusToken token = Next();
+  pos_ = saved;
+  return token;
+}
+
+std::string NexusNameText(const NexusToken& token) {
+  std::string name = token.text;
+  if (token.type != NexusToken::kQuoted) {
+    for (char& c : name) {
+      if (c == '_') c = ' ';
+    }
+  }
+  return name;
+}
+
+std::string NexusNameKey(std::string_view name) {
+  std::string key = ToUpperAscii(std::string(name));
+  for (char& c : key) {
+    if (c == '_') c = ' ';
+  }
+  return TrimBlanks(key);
+}
+
+}  // namespace ovelt
