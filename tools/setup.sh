@@ -10,6 +10,8 @@ preset=${1:-release}
 packages=(cmake g++ make qt6-base-dev qt6-svg-dev libcli11-dev libgtest-dev libgmock-dev
           libbenchmark-dev)
 if [ "$preset" = fuzz ]; then packages+=(clang libclang-rt-14-dev); fi
+# An independent reader of the files the writers make, for the interoperability test.
+if [ "$preset" = release ]; then packages+=(python3-biopython); fi
 
 missing=()
 for p in "${packages[@]}"; do
@@ -25,7 +27,7 @@ fi
 cmake --preset "$preset" > /dev/null
 if [ "$preset" = fuzz ]; then
   # Only the fuzz targets: the rest of the tree is not linked with the sanitizer runtimes.
-  cmake --build --preset fuzz -j2 --target fuzz_fasta fuzz_nbrf fuzz_mega fuzz_phylip >&2
+  cmake --build --preset fuzz -j2 --target fuzz_fasta fuzz_nbrf fuzz_mega fuzz_phylip fuzz_nexus fuzz_ovp >&2
 else
   cmake --build --preset "$preset" -j2 >&2
 fi
