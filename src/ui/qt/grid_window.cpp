@@ -1,0 +1,36 @@
+#include "ui/qt/grid_window.h"
+
+#include <QHeaderView>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace ovelt {
+
+GridWindow::GridWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
+  auto* layout = new QVBoxLayout(this);
+  table_ = new QTableWidget;
+  table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  layout->addWidget(table_);
+  resize(640, 480);
+}
+
+void GridWindow::SetGrid(const QString& caption, const OutputGrid& grid, int minimum_rows) {
+  setWindowTitle(caption);
+  size_t columns = grid.ColumnTitles.size();
+  for (const auto& row : grid.Rows) columns = std::max(columns, row.size());
+  table_->clear();
+  table_->setColumnCount(static_cast<int>(columns));
+  table_->setRowCount(std::max(static_cast<int>(grid.Rows.size()), minimum_rows));
+  QStringList titles;
+  for (const auto& title : grid.ColumnTitles) titles << QString::fromStdString(title);
+  table_->setHorizontalHeaderLabels(titles);
+  for (size_t r = 0; r < grid.Rows.size(); ++r)
+    for (size_t c = 0; c < grid.Rows[r].size(); ++c)
+      table_->setItem(static_cast<int>(r), static_cast<int>(c),
+                      new QTableWidgetItem(QString::fromStdString(grid.Rows[r][c])));
+  table_->resizeColumnsToContents();
+}
+
+}  // namespace ovelt

@@ -1,0 +1,242 @@
+#include "ui/qt/main_window.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDateTime>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+
+#include "core/gap_settings.h"
+#include "output/analysis_titles.h"
+#include "ui/qt/data_info_window.h"
+#include "ui/qt/form17_dialog.h"
+#include "ui/qt/grid_window.h"
+#include "ui/qt/include_dialog.h"
+#include "ui/qt/qt_platform.h"
+#include "ui/qt/text_window.h"
+
+namespace ovelt {
+
+namespace {
+
+QString Q(const std::string& text) { return QString::fromStdString(text); }
+
+const char* const kMenuOrder[] = {"File", "Data", "Analysis", "Overview", "Generate",
+                                  "Display", "Tools", "Help"};
+const char* const kMenuTitles[] = {"&File", "&Data", "&Analysis", "&Overview", "&Generate",
+                                   "Dis&play", "&Tools", "&Help"};
+
+}  // namespace
+
+MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* parent)
+    : QMainWindow(parent), workbench_(platform), qt_platform_(qt_platform) {
+  status_ = new QLabel;
+  gauge_ = new QProgressBar;
+  gauge_->setRange(0, 100);
+  gauge_->setMaximumWidth(200);
+  gauge_->hide();
+  clock_ = new QLabel;
+  statusBar()->addWidget(status_, 1);
+  statusBar()->addWidget(gauge_);
+  statusBar()->addPermanentWidget(clock_);
+  if (qt_platform_ != nullptr) qt_platform_->Attach(this, status_, gauge_);
+  status_->setText(kIdleStatus);
+
+  // The date and time in the status bar, refreshed by a timer: "dd/mm/yy hh:mm".
+  timer_ = new QTimer(this);
+  auto tick = [this] {
+    clock_->setText(QDateTime::currentDateTime().toString("dd/MM/yy hh:mm"));
+  };
+  connect(timer_, &QTimer::timeout, this, tick);
+  timer_->start(30000);
+  tick();
+
+  RegisterHandlers();
+  BuildMenus();
+  BuildToolBar();
+  text_ = new TextWindow(this);
+  grid_ = new GridWindow(this);
+  setWindowTitle(Q(workbench_.WindowTitle()));
+  resize(900, 600);
+  Refresh();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::RegisterHandlers() {
+  Workbench& wb = workbench_;
+  handlers_["leer_Click"] = [&wb] { wb.fbLeer1(0); };
+  for (int n = 1; n <= 4; ++n)
+    handlers_["mnuFicheros_Click(" + std::to_string(n) + ")"] = [&wb, n] { wb.fbLeer1(n); };
+  handlers_["del_Click"] = [&wb] { wb.CloseFile(); };
+  handlers_["salir_Click"] = [this] { close(); };
+  handlers_["DataInformacion_Click"] = [this] { ShowDataInformation(); };
+  handlers_["salvar_Click"] = [this] { SaveCurrentOutput(); };
+  handlers_["MenuSendAllOutput_Click"] = [this] { SendAllOutput(); };
+  handlers_["MenuCloseOutput_Click"] = [&wb] { wb.Output().CloseSessionFile(); };
+  handlers_["MenuGapsSW_Click"] = [this] { RunForm17(kGapsInWindowCommand); };
+  handlers_["MenuSSMutations_Click"] = [this] { RunForm17(kSegSitesMutationsCommand); };
+  handlers_["MenuGapsSeqSets_Click"] = [this] { RunForm17(kGapsInSetsCommand); };
+  handlers_["MenuIncluirSeqs_Click"] = [this] { RunIncludeSequences(); };
+  handlers_["About_Click"] = [this] {
+    QMessageBox::about(this, "About Ovelt",
+                       QString("Ovelt Workbench %1\n%2\nPopulation-genetic analysis of aligned DNA "
+                               "sequences.")
+                           .arg(kVersionText, kVersionDate));
+  };
+}
+
+void MainWindow::BuildMenus() {
+  std::map<std::string, QMenu*> menus;
+  for (size_t i = 0; i < std::size(kMenuOrder); ++i)
+    menus[kMenuOrder[i]] = menuBar()->addMenu(kMenuTitles[i]);
+  for (const MenuEntry& entry : workbench_.Menus().Entries()) {
+    auto menu = menus.find(entry.menu);
+    if (menu == menus.end()) continue;
+    QAction* action = menu->second->addAction(Q(entry.text));
+    const std::string handler = entry.handler;
+    connect(action, &QAction::triggered, this, [this, handler] { Trigger(handler); });
+    actions_[handler] = action;
+  }
+  // Menus that hold nothing yet stay out of the bar.
+  for (auto& [name, menu] : menus) {
+    bool any = false;
+    for (const MenuEntry& entry : workbench_.Menus().Entries())
+      if (entry.menu == name && handlers_.count(entry.handler)) any = true;
+    menu->menuAction()->setVisible(any);
+  }
+}
+
+void MainWindow::BuildToolBar() {
+  QToolBar* bar = addToolBar("Tools");
+  const std::pair<const char*, const char*> buttons[] = {
+      {"Data Information", "DataInformacion_Click"}, {"Open Data File", "leer_Click"},
+      {"Save Current Output", "salvar_Click"},       {"Close Data File", "del_Click"},
+      {"Include/Exclude Sequences", "MenuIncluirSeqs_Click"}};
+  for (const auto& [label, handler] : buttons) {
+    QAction* button = bar->addAction(label);
+    const std::string h = handler;
+    // A button acts only while its menu entry is enabled.
+    connect(button, &QAction::triggered, this, [this, h] {
+      if (workbench_.Menus().Enabled(h)) Trigger(h);
+    });
+  }
+}
+
+QAction* MainWindow::ActionFor(const std::string& handler) const {
+  auto it = actions_.find(handler);
+  return it == actions_.end() ? nullptr : it->second;
+}
+
+TextWindow* MainWindow::Text() const { return text_; }
+GridWindow* MainWindow::Grid() const { return grid_; }
+
+QString MainWindow::StatusText() const { return status_->text(); }
+
+void MainWindow::Trigger(const std::string& handler) {
+  auto it = handlers_.find(handler);
+  if (it == handlers_.end() || !workbench_.Menus().Enabled(handler)) return;
+  it->second();
+  Refresh();
+}
+
+void MainWindow::Refresh() {
+  MenuModel& menus = workbench_.Menus();
+  const OutputCommands& out = workbench_.Output().Commands();
+  // The session-file entries follow the channel.
+  menus.SetText("MenuSendAllOutput_Click", out.SendAllCaption);
+  menus.SetEnabled("MenuSendAllOutput_Click", out.SendAllEnabled);
+  menus.SetText("MenuCloseOutput_Click", out.CloseOutputCaption);
+  menus.SetEnabled("MenuCloseOutput_Click", out.CloseOutputEnabled);
+  if (workbench_.FileOpen()) menus.SetEnabled("salvar_Click", out.SaveEnabled);
+  for (const MenuEntry& entry : menus.Entries()) {
+    QAction* action = ActionFor(entry.handler);
+    if (action == nullptr) continue;
+    action->setText(Q(entry.text));
+    action->setEnabled(entry.enabled);
+    // Entries of commands that are not built yet are not shown.
+    action->setVisible(entry.visible && handlers_.count(entry.handler) > 0);
+  }
+  setWindowTitle(Q(workbench_.WindowTitle()));
+  ShowResults();
+}
+
+void MainWindow::ShowResults() {
+  const OutputChannel& channel = workbench_.Output();
+  const OutputWindows& windows = channel.Windows();
+  const std::string title = channel.ResultTitle.empty() ? AnalysisTitle(channel.ResultCode)
+                                                        : channel.ResultTitle;
+  if (windows.Text) {
+    text_->SetReport(Q(TextWindowCaption(channel.ResultCode, workbench_.Data().FileName)),
+                     channel.TextBuffer);
+    text_->show();
+  } else {
+    text_->hide();
+  }
+  if (windows.Grid) {
+    grid_->SetGrid(Q(channel.ResultCode != 0 ? GridWindowCaption(channel.ResultCode)
+                                              : "Output. Table of: " + title),
+                   channel.Grid1,
+                   channel.GridRows);
+    grid_->show();
+  } else {
+    grid_->hide();
+  }
+}
+
+void MainWindow::ShowDataInformation() {
+  const std::vector<InfoRow> rows = DataInformationRows(workbench_.Data());
+  DataInfoWindow window(rows, [this, rows] {
+    OutputChannel& channel = workbench_.Output();
+    channel.ResetOutputs();
+    channel.AppendText(DataInformationText(rows));
+    channel.ResultTitle = kDataInformationTitle;
+    channel.ShowResult(kResultTextOnly);
+    Refresh();
+  }, this);
+  window.exec();
+}
+
+void MainWindow::SaveCurrentOutput() {
+  OutputChannel& channel = workbench_.Output();
+  const FileDialogRequest spec = channel.SaveOutputDialog();
+  if (auto path = workbench_.Ui().SaveFileName(spec.Title, spec.Filter, spec.DefaultName))
+    channel.SaveCurrentOutput(*path);
+}
+
+void MainWindow::SendAllOutput() {
+  const FileDialogRequest spec = OutputChannel::SendAllOutputDialog();
+  if (auto path = workbench_.Ui().SaveFileName(spec.Title, spec.Filter, spec.DefaultName))
+    workbench_.Output().SendAllOutput(*path);
+}
+
+void MainWindow::RunForm17(int16_t analysis) {
+  ActiveData& d = workbench_.Data();
+  Form17Dialog dialog(Form17FaceFor(analysis), Form17CurrentChoice(d, analysis), this);
+  // Only OK writes the setting; any other way out changes nothing.
+  if (dialog.exec() == QDialog::Accepted) {
+    workbench_.SetStatus(1, "Processing...");
+    ApplyForm17(d, analysis, dialog.Choice());
+    workbench_.SetStatus(0);
+  }
+}
+
+void MainWindow::RunIncludeSequences() {
+  IncludeDialog dialog(workbench_, this);
+  dialog.exec();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (workbench_.salida_programa()) {
+    event->accept();
+  } else {
+    event->ignore();
+  }
+}
+
+}  // namespace ovelt

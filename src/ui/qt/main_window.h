@@ -1,0 +1,73 @@
+#pragma once
+// The main window: menus built from the menu model, tool buttons, the status line with its
+// progress bar and clock, and the result windows. Every menu entry runs the handler of the
+// same name on the Workbench; after each one the menus are brought in line with the model.
+
+#include <QMainWindow>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "core/shell/workbench.h"
+
+class QAction;
+class QLabel;
+class QMenu;
+class QProgressBar;
+class QTimer;
+
+namespace ovelt {
+
+class QtPlatform;
+class TextWindow;
+class GridWindow;
+
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+ public:
+  // `platform` is the window layer the logic talks to (a QtPlatform in the program, a scripted
+  // one in tests). When it is a QtPlatform it is attached to this window's status line.
+  explicit MainWindow(Platform& platform, QtPlatform* qt_platform = nullptr,
+                      QWidget* parent = nullptr);
+  ~MainWindow() override;
+
+  [[nodiscard]] Workbench& Bench() { return workbench_; }
+  [[nodiscard]] QAction* ActionFor(const std::string& handler) const;
+  // Runs a menu handler as a click would (also used by the tool buttons and tests).
+  void Trigger(const std::string& handler);
+  [[nodiscard]] TextWindow* Text() const;
+  [[nodiscard]] GridWindow* Grid() const;
+  [[nodiscard]] QString StatusText() const;
+
+  // Brings menus, captions, title and result windows in line with the model.
+  void Refresh();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void BuildMenus();
+  void BuildToolBar();
+  void RegisterHandlers();
+  void ShowResults();
+  void ShowDataInformation();
+  void SaveCurrentOutput();
+  void SendAllOutput();
+  void RunForm17(int16_t analysis);
+  void RunIncludeSequences();
+
+  Workbench workbench_;
+  QtPlatform* qt_platform_;
+  std::map<std::string, QAction*> actions_;
+  std::map<std::string, std::function<void()>> handlers_;
+  QLabel* status_ = nullptr;
+  QLabel* clock_ = nullptr;
+  QProgressBar* gauge_ = nullptr;
+  QTimer* timer_ = nullptr;
+  TextWindow* text_ = nullptr;  // children of this window
+  GridWindow* grid_ = nullptr;
+};
+
+}  // namespace ovelt

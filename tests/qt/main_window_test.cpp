@@ -1,0 +1,146 @@
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableWidget>
+#include <QTimer>
+
+#include "support/scripted_platform.h"
+#include "support/temp_dir.h"
+#include "ui/qt/grid_window.h"
+#include "ui/qt/include_dialog.h"
+#include "ui/qt/main_window.h"
+#include "ui/qt/qt_platform.h"
+#include "ui/qt/text_window.h"
+
+namespace ovelt {
+namespace {
+
+using testing::ScriptedPlatform;
+using testing::TempDir;
+
+// Runs `act` on the modal dialog that the next call opens, once it is up.
+void OnNextDialog(std::function<void(QDialog*)> act) {
+  QTimer::singleShot(0, [act] {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    act(dialog);
+  });
+}
+
+class MainWindowTest : public ::testing::Test {
+ protected:
+  MainWindowTest() {
+    p.ProgramDir = dir.Path().string();
+    file = dir.Write("gaps.fas", ">a\nACGTA\n>b\nAC-TA\n>c\nTCGTC\n>d\nTCGTA\n");
+  }
+  TempDir dir;
+  ScriptedPlatform p;
+  std::string file;
+};
+
+TEST_F(MainWindowTest, MenusComeFromTheModelAndFollowTheOpenFile) {
+  MainWindow window(p);
+  QAction* open = window.ActionFor("leer_Click");
+  ASSERT_NE(open, nullptr);
+  EXPECT_EQ(open->text(), "Open Data &File...");
+  EXPECT_TRUE(open->isEnabled());
+  EXPECT_FALSE(window.ActionFor("del_Click")->isEnabled());
+  EXPECT_FALSE(window.ActionFor("DataInformacion_Click")->isEnabled());
+  EXPECT_EQ(window.windowTitle(), "Ovelt Workbench");
+
+  p.OpenNames.push_back(file);
+  open->trigger();
+  EXPECT_EQ(window.windowTitle(), "Ovelt Workbench - gaps.fas");
+  EXPECT_FALSE(open->isEnabled());
+  EXPECT_TRUE(window.ActionFor("del_Click")->isEnabled());
+  EXPECT_TRUE(window.ActionFor("DataInformacion_Click")->isEnabled());
+  EXPECT_EQ(window.ActionFor("mnuFicheros_Click(1)")->text().toStdString(), "&1 " + file);
+
+  p.Answers.push_back(MsgAnswer::kYes);
+  window.ActionFor("del_Click")->trigger();
+  EXPECT_EQ(p.Boxes.back().Text, "Close file ? \nInput data file: " + file);
+  EXPECT_TRUE(open->isEnabled());
+  EXPECT_EQ(window.windowTitle(), "Ovelt Workbench");
+}
+
+TEST_F(MainWindowTest, CommandsThatAreNotBuiltAreNotShown) {
+  MainWindow window(p);
+  EXPECT_FALSE(window.ActionFor("MenuGeneCoal_Click")->isVisible());
+  EXPECT_TRUE(window.ActionFor("leer_Click")->isVisible());
+}
+
+TEST_F(MainWindowTest, DataInformationGoesToTheTextWindow) {
+  MainWindow window(p);
+  ASSERT_TRUE(window.Bench().OpenPath(file));
+  window.Refresh();
+  OnNextDialog([](QDialog* dialog) {
+    auto* table = dialog->findChild<QTableWidget*>();
+    ASSERT_NE(table, nullptr);
+    EXPECT_EQ(table->item(0, 0)->text(), "Number of Nucleotides");
+    EXPECT_EQ(table->item(0, 1)->text(), "5");
+    for (auto* button : dialog->findChildren<QPushButton*>())
+      if (button->text() == "Output") button->click();
+    dialog->reject();
+  });
+  window.Trigger("DataInformacion_Click");
+  ASSERT_TRUE(window.Text()->isVisible());
+  EXPECT_TRUE(window.Text()->Report().contains(" Total Number of Sequences     4"));
+}
+
+TEST_F(MainWindowTest, Form17WritesOnlyOnOk) {
+  MainWindow window(p);
+  ASSERT_TRUE(window.Bench().OpenPath(file));
+  window.Refresh();
+  OnNextDialog([](QDialog* dialog) {
+    EXPECT_EQ(dialog->windowTitle(), "Segregating Sites / Number of Mutations");
+    auto radios = dialog->findChildren<QRadioButton*>();
+    ASSERT_EQ(radios.size(), 2);
+    radios[1]->setChecked(true);
+    dialog->reject();
+  });
+  window.Trigger("MenuSSMutations_Click");
+  EXPECT_FALSE(window.Bench().Data().UseMutations);
+  OnNextDialog([](QDialog* dialog) {
+    dialog->findChildren<QRadioButton*>()[1]->setChecked(true);
+    dialog->accept();
+  });
+  window.Trigger("MenuSSMutations_Click");
+  EXPECT_TRUE(window.Bench().Data().UseMutations);
+}
+
+TEST_F(MainWindowTest, IncludeDialogStaysOpenWhenNothingIsTicked) {
+  MainWindow window(p);
+  ASSERT_TRUE(window.Bench().OpenPath(file));
+  window.Refresh();
+  bool stayed = false;
+  OnNextDialog([&stayed](QDialog* dialog) {
+    auto* include = qobject_cast<IncludeDialog*>(dialog);
+    ASSERT_NE(include, nullptr);
+    include->SelectAll(false);
+    include->accept();
+    stayed = include->isVisible();
+    include->Boxes()[1]->setChecked(false);
+    include->SelectAll(true);
+    include->Boxes()[1]->setChecked(false);  // exclude sequence 2, the one with the gap
+    include->accept();
+  });
+  window.Trigger("MenuIncluirSeqs_Click");
+  EXPECT_TRUE(stayed);
+  EXPECT_EQ(p.Boxes.front().Text, "The active data file must contain at least one sequence.");
+  EXPECT_EQ(window.Bench().Data().NumSeqs, 3);
+  EXPECT_EQ(window.Bench().Data().SiteClass[3], kMonomorphic);
+}
+
+TEST(QtFilter, ClassicFilterBecomesQtFilters) {
+  EXPECT_EQ(QtFilterFrom("All Data Files|*.fas;*.meg|FASTA Files (*.fas)|*.fas"),
+            "All Data Files (*.fas *.meg);;FASTA Files (*.fas)");
+}
+
+}  // namespace
+}  // namespace ovelt
