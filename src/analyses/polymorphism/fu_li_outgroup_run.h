@@ -1,0 +1,27 @@
+#pragma once
+// A run of Fu and Li's tests with an outgroup (and Fay and Wu's H) once `Form11b` was confirmed:
+// the checks of the options, the two selections, the computation, the report, the table of the
+// windows and the result shown. A refusal leaves `ReopenDialog` set; the two refusals of the
+// selections (no sequence in a set, fewer than three in the intraspecific data) also `RunFailed`.
+
+#include "analyses/polymorphism/fu_li_outgroup_test.h"
+#include "analyses/polymorphism/neutrality_options.h"
+#include "analyses/polymorphism/window_table.h"
+#include "core/active_data.h"
+#include "output/json_text.h"
+#include "output/output_channel.h"
+#include "ui/platform.h"
+
+namespace ovelt {
+
+struct FuLiOutgroupRun {
+  FuLiOutgroupResult Result;
+  GraphData Graph;
+};
+
+bool RunFuLiOutgroupTest(ActiveData& ad, OutputChannel& channel, Platform& platform,
+                         const FuLiOutgroupOptions& options, FuLiOutgroupRun* run = nullptr);
+
+void WriteJson(JsonText& json, const FuLiOutgroupResult& result);
+
+}  // namespace ovelt

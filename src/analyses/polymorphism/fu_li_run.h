@@ -1,0 +1,27 @@
+#pragma once
+// A run of Fu and Li's tests (with Fu's Fs and Strobeck's S) once the dialog was confirmed: the
+// checks of the options, the selection, the computation, the report, the table of the windows
+// and the result shown. A refusal leaves `ReopenDialog` set, a failure `RunFailed`; a fault of Fs
+// alone is shown and the rest of the result stands.
+
+#include "analyses/polymorphism/fu_li_test.h"
+#include "analyses/polymorphism/neutrality_options.h"
+#include "analyses/polymorphism/window_table.h"
+#include "core/active_data.h"
+#include "output/json_text.h"
+#include "output/output_channel.h"
+#include "ui/platform.h"
+
+namespace ovelt {
+
+struct FuLiRun {
+  FuLiTestResult Result;
+  GraphData Graph;
+};
+
+bool RunFuLiTest(ActiveData& ad, OutputChannel& channel, Platform& platform,
+                 const NeutralityOptions& options, FuLiRun* run = nullptr);
+
+void WriteJson(JsonText& json, const FuLiTestResult& result);
+
+}  // namespace ovelt

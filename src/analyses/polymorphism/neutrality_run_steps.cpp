@@ -1,0 +1,44 @@
+#include "analyses/polymorphism/neutrality_run_steps.h"
+
+#include <exception>
+
+#include "analyses/polymorphism/sliding_window.h"
+
+namespace ovelt {
+
+bool RefuseRun(OutputChannel& channel, Platform& platform, const std::string& message) {
+  channel.SetBusy(false);
+  platform.MessageBox(message, MsgIcon::kWarning);
+  channel.ReopenDialog = 1;
+  return false;
+}
+
+bool FailRun(OutputChannel& channel, Platform& platform, const std::string& message) {
+  platform.MessageBox(message, MsgIcon::kWarning);
+  channel.RunFailed = 1;
+  channel.SetBusy(false);
+  return false;
+}
+
+bool ShowWindowTable(ActiveData& ad, OutputChannel& channel, Platform& platform,
+                     const std::vector<std::string>& titles,
+                     const std::function<std::vector<std::vector<std::string>>()>& rows,
+                     const std::function<GraphData()>& make_graph, GraphData& graph) {
+  try {
+    channel.Grid1.ColumnTitles = titles;
+    channel.Grid1.Rows = rows();
+    graph = make_graph();
+  } catch (const std::exception&) {
+    channel.TooBigCancel = 1;
+    platform.MessageBox(
+        "Input data file: " + ad.FileName + "\n" + kOutputTooBig + "\n" + kIncreaseStep,
+        MsgIcon::kWarning);
+    channel.EndFailedRun();
+    return false;
+  }
+  channel.ShowResult(kResultAddGraph);
+  channel.ShowResult(kResultTextAndGrid);
+  return true;
+}
+
+}  // namespace ovelt

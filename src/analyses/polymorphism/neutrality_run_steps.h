@@ -1,0 +1,30 @@
+#pragma once
+// The steps that the runs of the neutrality tests share: a refusal that keeps the dialog open, a
+// failure that ends the run, and putting up the table of the windows with its graph.
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "analyses/polymorphism/window_table.h"
+#include "core/active_data.h"
+#include "output/output_channel.h"
+#include "ui/platform.h"
+
+namespace ovelt {
+
+// Shows the message; the dialog stays open (`ReopenDialog`). Always false.
+bool RefuseRun(OutputChannel& channel, Platform& platform, const std::string& message);
+
+// Shows the message of a failed computation; `RunFailed` is set. Always false.
+bool FailRun(OutputChannel& channel, Platform& platform, const std::string& message);
+
+// The window grid: the titles and `rows` cells per window, then the graph from `make_graph`, and
+// the result shown with its graph. A fault while filling them gives the "Output too big" message
+// and ends the run (false).
+bool ShowWindowTable(ActiveData& ad, OutputChannel& channel, Platform& platform,
+                     const std::vector<std::string>& titles,
+                     const std::function<std::vector<std::vector<std::string>>()>& rows,
+                     const std::function<GraphData()>& make_graph, GraphData& graph);
+
+}  // namespace ovelt

@@ -1,0 +1,171 @@
+#include "analyses/polymorphism/domain_definition.h"
+#include "analyses/polymorphism/multidomain_table.h"
+#include "analyses/polymorphism/overview_run.h"
+
+#include <gtest/gtest.h>
+
+#include "polymorphism/size_change_fixture.h"
+#include "support/scripted_platform.h"
+
+namespace ovelt {
+namespace {
+
+struct Bench {
+  testing::ScriptedPlatform ui;
+  OutputChannel out{ui};
+  ActiveData ad = test::MakeAlignment(test::kFiveSequences);
+};
+
+TEST(ParseDomains, NamesAndRanges) {
+  const auto domains = ParseDomains("Exon1=1-3,6; Intron = 4-5,5,8", 8);
+  ASSERT_TRUE(domains);
+  ASSERT_EQ(domains->size(), 2u);
+  EXPECT_EQ((*domains)[0].Name, "Exon1");
+  EXPECT_EQ((*domains)[0].Sites, (std::vector<int32_t>{1, 2, 3, 6}));
+  EXPECT_EQ((*domains)[1].Name, "Intron");
+  EXPECT_EQ((*domains)[1].Sites, (std::vector<int32_t>{4, 5, 8}));
+  EXPECT_FALSE(ParseDomains("A=1-9", 8));
+  EXPECT_FALSE(ParseDomains("A=3-2", 8));
+  EXPECT_FALSE(ParseDomains("=1-2", 8));
+  EXPECT_FALSE(ParseDomains("A:1-2", 8));
+  EXPECT_FALSE(ParseDomains("A=1-x", 8));
+}
+
+TEST(DomainData, AContiguousDomainGivesTheStatisticsOfItsRegion) {
+  // Second route: the domain as a data set of its own against the same sites as a region.
+  ActiveData whole = test::SelectedAlignment(test::kFiveSequences);
+  const OverviewStats direct = ComputeOverview(whole, 3, 7, false);
+  ActiveData domain = DomainData(test::MakeAlignment(test::kFiveSequences), {3, 4, 5, 6, 7});
+  SelectOneSet(domain, 0);
+  const OverviewStats through = ComputeOverview(domain, 1, domain.NumSites, false);
+  EXPECT_EQ(through.NetSites, direct.NetSites);
+  EXPECT_EQ(through.SegSites, direct.SegSites);
+  EXPECT_EQ(through.Haplotypes, direct.Haplotypes);
+  EXPECT_DOUBLE_EQ(through.K, direct.K);
+  EXPECT_DOUBLE_EQ(through.Hd, direct.Hd);
+  EXPECT_DOUBLE_EQ(through.VarPi, direct.VarPi);
+  EXPECT_DOUBLE_EQ(through.Gc.Total.Content, direct.Gc.Total.Content);
+}
+
+TEST(MultiDomain, RowsForEveryDomainAndSet) {
+  Bench b;
+  test::AddSet(b.ad, "North", {1, 2, 3});
+  test::AddSet(b.ad, "South", {4, 5});
+  MultiDomainOptions options;
+  options.Domains = "A=1-4;B=5-8";
+  std::vector<MultiDomainRow> rows;
+  ASSERT_TRUE(RunMultiDomain(b.ad, b.out, b.ui, options, &rows));
+  ASSERT_EQ(rows.size(), 6u);
+  EXPECT_EQ(rows[0].Region, "A");
+  EXPECT_EQ(rows[0].Population, "All_Seqs");
+  EXPECT_EQ(rows[1].Population, "North");
+  EXPECT_EQ(rows[2].Population, "South");
+  EXPECT_EQ(rows[3].Region, "B");
+  // Domain A, all sequences: sites 1, 2 (singletons, 0.4 each) and 4 (2 : 3, 0.6).
+  EXPECT_EQ(rows[0].Stats.SegSites, 3);
+  EXPECT_NEAR(rows[0].Stats.K, 1.4, 1e-12);
+  // Domain A, North (seqs 1-3): site 2 A G G and site 4 G G A: k = 2/3 + 2/3.
+  EXPECT_NEAR(rows[1].Stats.K, 4.0 / 3.0, 1e-12);
+  // Domain B holds the gap site 7: four net sites of its four.
+  EXPECT_EQ(rows[3].Stats.Sites, 4);
+  EXPECT_EQ(rows[3].Stats.NetSites, 3);
+  EXPECT_EQ(b.ad.Domains.size(), 2u);
+  EXPECT_EQ(b.out.ResultCode, 33);
+  EXPECT_EQ(b.out.Grid1.ColumnTitles, MultiDomainShortHeads());
+  ASSERT_EQ(b.out.Grid1.Rows.size(), 6u);
+  EXPECT_EQ(b.out.Grid1.Rows[0][0], "sample.fas     ");
+  EXPECT_EQ(b.out.Grid1.Rows[0][1], "All_Seqs       ");
+  EXPECT_EQ(b.out.Grid1.Rows[0][2], "            A");
+  EXPECT_EQ(b.out.Grid1.Rows[0][16], "1.400");
+  EXPECT_EQ(b.out.Grid1.Rows[0][17], "n.a.");
+  EXPECT_EQ(b.out.TextBuffer.substr(0, 30), "DataFile  Population  Domain  ");
+}
+
+TEST(MultiDomain, DomainOfOnlyGapSites) {
+  Bench b;
+  MultiDomainOptions options;
+  options.Domains = "Gap=7";
+  std::vector<MultiDomainRow> rows;
+  ASSERT_TRUE(RunMultiDomain(b.ad, b.out, b.ui, options, &rows));
+  ASSERT_EQ(rows.size(), 1u);
+  EXPECT_EQ(rows[0].Stats.NetSites, 0);
+  const std::vector<std::string> cells = MultiDomainCells(rows[0]);
+  EXPECT_EQ(cells[6], "      0");
+  EXPECT_EQ(cells[19], "   n.d.");
+  EXPECT_EQ(cells[20], "n.d.");
+  EXPECT_EQ(cells[21], "   n.d.");
+  EXPECT_EQ(cells[23], "   n.d.");
+
+  // Without the sites with gaps the domain keeps no site at all.
+  Bench without;
+  options.IncludeGapSites = false;
+  ASSERT_TRUE(RunMultiDomain(without.ad, without.out, without.ui, options, &rows));
+  ASSERT_EQ(rows.size(), 1u);
+  EXPECT_EQ(rows[0].Stats.Sites, 0);
+  EXPECT_EQ(MultiDomainCells(rows[0])[5], "      0");
+  EXPECT_EQ(MultiDomainCells(rows[0])[19], "   n.d.");
+}
+
+TEST(MultiDomain, SetOfOneSequenceHasNoHaplotypeDiversity) {
+  Bench b;
+  test::AddSet(b.ad, "Lone", {3});
+  MultiDomainOptions options;
+  std::vector<MultiDomainRow> rows;
+  ASSERT_TRUE(RunMultiDomain(b.ad, b.out, b.ui, options, &rows));
+  ASSERT_EQ(rows.size(), 2u);
+  EXPECT_EQ(rows[0].Region, "1-8");  // no domain: the region is the one domain
+  EXPECT_EQ(rows[1].Population, "Lone");
+  EXPECT_EQ(MultiDomainCells(rows[1])[10], "n.d.");
+  EXPECT_EQ(MultiDomainCells(rows[0])[10], "1.000");
+}
+
+TEST(MultiDomain, MalformedDomainsKeepTheDialogOpen) {
+  Bench b;
+  MultiDomainOptions options;
+  options.Domains = "A=1-99";
+  EXPECT_FALSE(RunMultiDomain(b.ad, b.out, b.ui, options));
+  EXPECT_EQ(b.out.ReopenDialog, 1);
+  ASSERT_EQ(b.ui.Boxes.size(), 1u);
+  EXPECT_EQ(b.ui.Boxes[0].Text, " Invalid Selection ");
+}
+
+TEST(MultiDomain, NumberOfDomainsTakesTheFirstOnes) {
+  Bench b;
+  MultiDomainOptions options;
+  options.Domains = "A=1-2;B=3-4;C=5-6";
+  options.NumberOfDomains = 2;
+  std::vector<MultiDomainRow> rows;
+  ASSERT_TRUE(RunMultiDomain(b.ad, b.out, b.ui, options, &rows));
+  ASSERT_EQ(rows.size(), 2u);
+  EXPECT_EQ(rows[1].Region, "B");
+}
+
+TEST(TestCell, SignsLineUp) {
+  NeutralityValue v;
+  v.Determined = true;
+  v.Value = 0.5;
+  EXPECT_EQ(TestCell(v), " 0.5000");
+  v.Value = -0.5;
+  EXPECT_EQ(TestCell(v), "-0.5000");
+}
+
+TEST(OverviewRun, ReportAndChecks) {
+  Bench b;
+  OverviewStats stats;
+  ASSERT_TRUE(RunOverview(b.ad, b.out, b.ui, OverviewOptions{}, &stats));
+  EXPECT_EQ(b.out.ResultCode, 24);
+  EXPECT_EQ(b.out.TextShown, 1);
+  EXPECT_NE(b.out.TextBuffer.find(" Total number of sites (excluding sites with gaps / missing "
+                                  "data): 7\r\n Number of variable sites, S: 4\r\n"),
+            std::string::npos);
+  EXPECT_EQ(stats.Haplotypes, 5);
+
+  Bench region;
+  OverviewOptions bad;
+  bad.RegionFrom = 0;
+  EXPECT_FALSE(RunOverview(region.ad, region.out, region.ui, bad));
+  EXPECT_EQ(region.ui.Boxes[0].Text, " Invalid Selection ");
+}
+
+}  // namespace
+}  // namespace ovelt
