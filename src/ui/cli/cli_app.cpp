@@ -7,8 +7,13 @@
 #include "core/shell/workbench.h"
 #include "ui/cli/cli_registry.h"
 #include "ui/cli/data_commands.h"
+#include "ui/cli/export_commands.h"
 #include "ui/cli/file_job.h"
+#include "ui/cli/neutrality_commands.h"
+#include "ui/cli/polymorphism_commands.h"
+#include "ui/cli/size_change_commands.h"
 #include "ui/cli/table_commands.h"
+#include "ui/cli/tool_commands.h"
 
 namespace ovelt {
 
@@ -21,6 +26,11 @@ int RunCli(int argc, char** argv, std::ostream& out, std::ostream& err) {
   CliRegistry registry(app);
   AddTableCommands(registry);
   AddDataCommands(registry);
+  AddExportCommands(registry);
+  AddPolymorphismCommands(registry);
+  AddNeutralityCommands(registry);
+  AddSizeChangeCommands(registry);
+  AddToolCommands(registry);
 
   try {
     app.parse(argc, argv);

@@ -11,6 +11,7 @@
 #include "core/region_check.h"
 #include "core/sequence_sets.h"
 #include "core/site_scan.h"
+#include "formats/mega_dialog_check.h"
 #include "core/shell/refusals.h"
 #include "core/shell/workbench.h"
 #include "ui/cli/console_platform.h"
@@ -18,13 +19,6 @@
 namespace ovelt {
 
 namespace {
-
-bool OneCharacter(const std::string& text, const char* what, std::ostream& err) {
-  if (text.size() == 1 && text[0] != ' ') return true;
-  // The dialog's own answer to an empty symbol.
-  err << "Invalid Selection :\nMissing data (" << what << " must be one character)\n";
-  return false;
-}
 
 bool AllDigits(const std::string& text) {
   return !text.empty() && text.size() < 9 &&
@@ -237,10 +231,13 @@ void AddDataOptions(CLI::App& app, DataOptions& o) {
 }
 
 bool PrepareDataOptions(const DataOptions& o, ConsolePlatform& platform, std::ostream& err) {
-  if (!OneCharacter(o.mega_match, "the matching symbol", err) ||
-      !OneCharacter(o.mega_gap, "the gap symbol", err) ||
-      !OneCharacter(o.mega_missing, "the missing symbol", err))
+  if (!MegaSymbolsAreGiven(o.mega_match, o.mega_gap, o.mega_missing)) {
+    // The dialog's own answer to an empty symbol.
+    static_cast<Platform&>(platform).MessageBox(kMissingSymbolText, MsgIcon::kWarning,
+                                                MsgButtons::kOk, kMissingSymbolTitle);
+    err << "(each MEGA symbol must be one character)\n";
     return false;
+  }
   platform.mega.Layout = Lower(o.mega_layout) == "interleaved" ? 1 : 0;
   platform.mega.MatchSymbol = o.mega_match[0];
   platform.mega.GapSymbol = o.mega_gap[0];
