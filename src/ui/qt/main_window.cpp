@@ -13,6 +13,7 @@
 
 #include "core/gap_settings.h"
 #include "output/analysis_titles.h"
+#include "ui/qt/analysis_dialogs.h"
 #include "ui/qt/data_info_window.h"
 #include "ui/qt/form17_dialog.h"
 #include "ui/qt/grid_window.h"
@@ -57,6 +58,7 @@ MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* par
   tick();
 
   RegisterHandlers();
+  AddAnalysisHandlers(*this);
   BuildMenus();
   BuildToolBar();
   text_ = new TextWindow(this);
@@ -204,14 +206,14 @@ void MainWindow::ShowDataInformation() {
 
 void MainWindow::SaveCurrentOutput() {
   OutputChannel& channel = workbench_.Output();
-  const FileDialogRequest spec = channel.SaveOutputDialog();
-  if (auto path = workbench_.Ui().SaveFileName(spec.Title, spec.Filter, spec.DefaultName))
+  const FileDialogRequest request = channel.SaveOutputDialog();
+  if (auto path = workbench_.Ui().SaveFileName(request.Title, request.Filter, request.DefaultName))
     channel.SaveCurrentOutput(*path);
 }
 
 void MainWindow::SendAllOutput() {
-  const FileDialogRequest spec = OutputChannel::SendAllOutputDialog();
-  if (auto path = workbench_.Ui().SaveFileName(spec.Title, spec.Filter, spec.DefaultName))
+  const FileDialogRequest request = OutputChannel::SendAllOutputDialog();
+  if (auto path = workbench_.Ui().SaveFileName(request.Title, request.Filter, request.DefaultName))
     workbench_.Output().SendAllOutput(*path);
 }
 

@@ -41,6 +41,11 @@ class MainWindow : public QMainWindow {
   [[nodiscard]] GridWindow* Grid() const;
   [[nodiscard]] QString StatusText() const;
 
+  // Adds or replaces the handler of a menu entry (before the menus are built).
+  void AddHandler(const std::string& handler, std::function<void()> run) {
+    handlers_[handler] = std::move(run);
+  }
+
   // Brings menus, captions, title and result windows in line with the model.
   void Refresh();
 

@@ -1,0 +1,66 @@
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "support/scripted_platform.h"
+#include "support/temp_dir.h"
+#include "ui/qt/main_window.h"
+#include "ui/qt/option_dialog.h"
+#include "ui/qt/text_window.h"
+
+namespace ovelt {
+namespace {
+
+using testing::ScriptedPlatform;
+using testing::TempDir;
+
+TEST(AnalysisDialogs, DnaPolymorphismRunsFromItsMenuEntryThroughTheGeneratedDialog) {
+  TempDir dir;
+  ScriptedPlatform p;
+  p.ProgramDir = dir.Path().string();
+  MainWindow window(p);
+  const std::string file =
+      dir.Write("four.fas", ">a\nACGTACGTAC\n>b\nACGTACGTAA\n>c\nATGTACGTAC\n>d\nACGTACCTAC\n");
+  ASSERT_TRUE(window.Bench().OpenPath(file));
+  window.Refresh();
+  QAction* action = window.ActionFor("MenuDnaPol_Click");
+  ASSERT_NE(action, nullptr);
+  EXPECT_TRUE(action->isVisible());
+  EXPECT_EQ(action->text(), "&DNA Polymorphism...");
+
+  // First a region beyond the last site: the dialog refuses it and stays; then a good one.
+  int dialogs = 0;
+  std::function<void()> answer = [&] {
+    auto* dialog = qobject_cast<OptionDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    ++dialogs;
+    EXPECT_EQ(dialog->windowTitle(), "DNA Polymorphism");
+    auto edits = dialog->findChildren<QLineEdit*>();
+    ASSERT_GE(edits.size(), 2);
+    edits[1]->setText("11");
+    QTimer::singleShot(0, [] {
+      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) box->accept();
+    });
+    dialog->accept();
+    EXPECT_TRUE(dialog->LastOkRefused());
+    edits[1]->setText("10");
+    dialog->accept();
+  };
+  QTimer::singleShot(0, answer);
+  action->trigger();
+  EXPECT_EQ(dialogs, 1);
+  EXPECT_EQ(window.Bench().Data().Analysis, 0);
+  const QString report = window.Text()->Report();
+  EXPECT_TRUE(report.contains(" Selected region: 1-10   Number of sites: 10")) << report.toStdString();
+  // Three sites segregate (2, 7 and 10), each a singleton of diversity 1/2, so k = 1.5.
+  EXPECT_TRUE(report.contains(" Number of polymorphic (segregating) sites, S: 3\n"))
+      << report.toStdString();
+  EXPECT_TRUE(report.contains(" Average number of nucleotide differences, k: 1.500\n"));
+}
+
+}  // namespace
+}  // namespace ovelt
