@@ -63,6 +63,28 @@ TEST(Cli, InfoAppliesTheDataSettings) {
   EXPECT_NE(r.out.find(" Total Number of Subsets    2\n"), std::string::npos);
 }
 
+TEST(Cli, InfoListsSetsDomainsAndCodingRegions) {
+  TempDir home;
+  const auto r = RunOvelt({"info", kExample, "--set-def", "North=1-6", "--set-def", "South=7-12",
+                           "--inactive-set", "South", "--coding", "4-300:2", "--noncoding",
+                           "100-120"},
+                          home.Path().string());
+  ASSERT_EQ(r.status, 0) << r.err;
+  // Site 121 lies 117 sites (39 codons) after site 4, so it keeps position 2.
+  EXPECT_NE(r.out.find("\n Sequence Sets:\n    North: 1-6  (6 sequences)\n    South: 7-12  (6 "
+                       "sequences, excluded from analyses)\n Protein coding regions:\n    4-99  "
+                       "(first site at codon position 2)\n    121-300  (first site at codon "
+                       "position 2)\n"),
+            std::string::npos)
+      << r.out;
+  const auto nexus = RunOvelt(
+      {"info", std::string(OVELT_TEST_DATA) + "/corpus/nexus/biopython_codonposset.nex"},
+      home.Path().string());
+  ASSERT_EQ(nexus.status, 0) << nexus.err;
+  EXPECT_NE(nexus.out.find(" File Format                   NEXUS\n"), std::string::npos);
+  EXPECT_NE(nexus.out.find(" Protein coding regions:\n"), std::string::npos) << nexus.out;
+}
+
 TEST(Cli, BadSettingsAreRefusedWithTheirMessage) {
   TempDir home;
   const auto name = RunOvelt({"info", kExample, "--set-def", "Begin=1-3"}, home.Path().string());

@@ -19,6 +19,11 @@ inline constexpr const char* kDataInformationTitle = "Data Information";
 // The name of a file kind ("MEGA", "NBRF/PIR", "NEXUS", "PHYLIP", "FASTA").
 [[nodiscard]] std::string FileKindName(int16_t kind);
 
+// What the file is annotated with, listed in full: the sequence sets with their members, the
+// domains with their sites, and the protein coding regions (runs of coding sites with the codon
+// position of their first site). "" when there is none of the three. CR LF lines.
+[[nodiscard]] std::string DataAnnotationsText(const ActiveData& data);
+
 // The grid as text for the output window: labels left, values from column 31, CR LF lines.
 [[nodiscard]] std::string DataInformationText(const std::vector<InfoRow>& rows);
 

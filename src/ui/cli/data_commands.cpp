@@ -23,7 +23,9 @@ int RunInfo(const FileJob& job, const CliStreams& s) {
   const std::vector<InfoRow> rows = DataInformationRows(wb.Data());
   OutputChannel& channel = wb.Output();
   channel.ResetOutputs();
-  channel.AppendText(DataInformationText(rows));
+  const std::string annotations = DataAnnotationsText(wb.Data());
+  channel.AppendText(DataInformationText(rows) +
+                     (annotations.empty() ? "" : "\r\n" + annotations));
   channel.Grid1.ColumnTitles = {"", kDataInformationTitle};
   for (const auto& [label, value] : rows) channel.Grid1.Rows.push_back({label, value});
   channel.ResultTitle = kDataInformationTitle;
