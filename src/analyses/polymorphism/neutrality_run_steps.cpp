@@ -1,5 +1,7 @@
 #include "analyses/polymorphism/neutrality_run_steps.h"
 
+#include "core/site_scan.h"
+
 #include <exception>
 
 #include "analyses/polymorphism/sliding_window.h"
@@ -39,6 +41,33 @@ bool ShowWindowTable(ActiveData& ad, OutputChannel& channel, Platform& platform,
   channel.ShowResult(kResultAddGraph);
   channel.ShowResult(kResultTextAndGrid);
   return true;
+}
+
+std::optional<NeutralityRunStart> StartNeutralityRun(ActiveData& ad, OutputChannel& channel,
+                                                     Platform& platform,
+                                                     const NeutralityOptions& options,
+                                                     int16_t command) {
+  if (auto refusal = ValidateNeutralityOptions(options, ad.NumSites, ad.GapsInWindow)) {
+    RefuseRun(channel, platform, *refusal);
+    return std::nullopt;
+  }
+  NeutralityRunStart start;
+  start.From = options.RegionFrom;
+  start.To = options.RegionTo == 0 ? ad.NumSites : options.RegionTo;
+  if (options.SlidingOn)
+    start.Window =
+        NeutralityWindow(options.WindowLength, options.StepSize, ad.NumSites, ad.GapsInWindow);
+
+  channel.ResetOutputs();
+  channel.SetBusy(true, "Computing Haplotype Diversity...");
+  ad.Region = {start.From, start.To};
+  ad.SelSites = ad.NumSites;
+  SelectOneSet(ad, options.SelSet1);
+  if (const int32_t minimum = MinimumSequences(command, ad.SelOutCount)) {
+    RefuseRun(channel, platform, TooFewSequencesMessage(minimum));
+    return std::nullopt;
+  }
+  return start;
 }
 
 }  // namespace ovelt

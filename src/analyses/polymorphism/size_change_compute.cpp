@@ -9,7 +9,7 @@
 #include "analyses/polymorphism/raggedness_statistic.h"
 #include "analyses/polymorphism/size_change_r2.h"
 #include "analyses/polymorphism/size_change_segregating.h"
-#include "analyses/polymorphism/size_change_spectrum.h"
+#include "analyses/polymorphism/size_change_frequencies.h"
 #include "output/too_big_prompt.h"
 #include "stats/harmonic.h"
 

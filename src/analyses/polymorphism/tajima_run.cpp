@@ -11,21 +11,12 @@ namespace ovelt {
 
 bool RunTajimaTest(ActiveData& ad, OutputChannel& channel, Platform& platform,
                    const NeutralityOptions& options, TajimaRun* run) {
-  if (auto refusal = ValidateNeutralityOptions(options, ad.NumSites, ad.GapsInWindow))
-    return RefuseRun(channel, platform, *refusal);
-  const int32_t from = options.RegionFrom;
-  const int32_t to = options.RegionTo == 0 ? ad.NumSites : options.RegionTo;
-  std::optional<SlidingWindowSpec> window;
-  if (options.SlidingOn)
-    window = NeutralityWindow(options.WindowLength, options.StepSize, ad.NumSites, ad.GapsInWindow);
-
-  channel.ResetOutputs();
-  channel.SetBusy(true, "Computing Haplotype Diversity...");
-  ad.Region = {from, to};
-  ad.SelSites = ad.NumSites;
-  SelectOneSet(ad, options.SelSet1);
-  if (const int32_t minimum = MinimumSequences(kTajimaCommand, ad.SelOutCount))
-    return RefuseRun(channel, platform, TooFewSequencesMessage(minimum));
+  const std::optional<NeutralityRunStart> start =
+      StartNeutralityRun(ad, channel, platform, options, kTajimaCommand);
+  if (!start) return false;
+  const int32_t from = start->From;
+  const int32_t to = start->To;
+  const std::optional<SlidingWindowSpec>& window = start->Window;
 
   TajimaRun local;
   TajimaRun& out = run != nullptr ? *run : local;

@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/size_change_spectrum.h"
+#include "analyses/polymorphism/size_change_frequencies.h"
 
 #include <gtest/gtest.h>
 
