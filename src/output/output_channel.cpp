@@ -1,6 +1,7 @@
 #include "output/output_channel.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "output/analysis_titles.h"
 #include "output/report_text.h"
@@ -51,6 +52,8 @@ void OutputChannel::ResetOutputs() {
   TrelmoLines.clear();
   ResultTitle.clear();
   grid_text_head_.reset();
+  graph_ = GraphData{};
+  ++graph_serial_;
   commands_.SaveCaption = "Save Current Output...";
   commands_.SaveEnabled = commands_.PrintEnabled = commands_.GraphButtonsEnabled = false;
 }
@@ -78,6 +81,12 @@ void OutputChannel::RaiseGauge(int percent) {
   if (value <= gauge_) return;
   gauge_ = value;
   platform_.SetProgress(value);
+}
+
+void OutputChannel::SetGraph(GraphData graph) {
+  graph_ = std::move(graph);
+  ++graph_serial_;
+  GraphOn = 1;
 }
 
 void OutputChannel::AppendText(const std::string& text) { TextBuffer += text; }

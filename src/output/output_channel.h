@@ -12,6 +12,7 @@
 #include <optional>
 #include <string>
 
+#include "output/graph_data.h"
 #include "output/output_grid.h"
 #include "output/session_file.h"
 #include "ui/platform.h"
@@ -118,6 +119,13 @@ class OutputChannel {
   // Hides the result windows of a run that failed and gives the idle commands back.
   void EndFailedRun();
 
+  // The chart a run leaves for the graph window; sets GraphOn. ResetOutputs empties it.
+  void SetGraph(GraphData graph);
+  [[nodiscard]] const GraphData& Graph() const { return graph_; }
+  // Changes with every SetGraph and ResetOutputs, so a window can tell a new chart from the one
+  // it shows.
+  [[nodiscard]] int32_t GraphSerial() const { return graph_serial_; }
+
   // The grid head of the saved text: the analysis's own, or the code's first one.
   void SetGridTextHead(const std::string& head);
   [[nodiscard]] std::string GridTextHead() const;
@@ -161,6 +169,8 @@ class OutputChannel {
   OutputWindows windows_;
   OutputCommands commands_;
   std::optional<std::string> grid_text_head_;
+  GraphData graph_;
+  int32_t graph_serial_ = 0;
   bool gauge_visible_ = false;
   int gauge_ = 0;
   std::string status_ = kIdleStatus;

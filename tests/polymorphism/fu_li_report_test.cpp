@@ -4,8 +4,8 @@
 
 #include <cmath>
 
-#include "analyses/polymorphism/fs_statistic.h"
 #include "analyses/polymorphism/fu_li_test.h"
+#include "stats/fs_statistic.h"
 #include "neutrality_fixture.h"
 
 namespace ovelt {

@@ -4,9 +4,9 @@
 
 #include <cmath>
 
-#include "analyses/polymorphism/fu_li_statistics.h"
 #include "analyses/polymorphism/neutrality_window_report.h"
 #include "analyses/polymorphism/sliding_window_pi.h"
+#include "stats/fu_li_statistics.h"
 #include "neutrality_fixture.h"
 
 namespace ovelt {

@@ -95,6 +95,7 @@ bool RunDnaPolymorphism(ActiveData& ad, OutputChannel& channel, Platform& platfo
     } catch (const std::bad_alloc&) {
       return FailWindows(channel, platform, ad);
     }
+    channel.SetGraph(out.Graph);
     channel.ShowResult(kResultAddGraph);
     channel.ShowResult(kResultTextAndGrid);
   } else {

@@ -6,7 +6,7 @@
 // failure).
 
 #include "analyses/polymorphism/dna_polymorphism.h"
-#include "analyses/polymorphism/window_table.h"
+#include "output/graph_data.h"
 #include "core/active_data.h"
 #include "output/json_text.h"
 #include "output/output_channel.h"

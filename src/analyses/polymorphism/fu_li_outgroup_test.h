@@ -11,13 +11,13 @@
 #include <string>
 #include <vector>
 
-#include "analyses/polymorphism/fay_wu_h.h"
-#include "analyses/polymorphism/fu_li_statistics.h"
 #include "analyses/polymorphism/neutrality_totals.h"
 #include "analyses/polymorphism/neutrality_windows.h"
 #include "analyses/polymorphism/poly_gauge.h"
 #include "analyses/polymorphism/sliding_window.h"
 #include "core/active_data.h"
+#include "stats/fay_wu_h.h"
+#include "stats/fu_li_statistics.h"
 
 namespace ovelt {
 

@@ -7,14 +7,14 @@
 #include <cstdint>
 #include <optional>
 
-#include "analyses/polymorphism/fs_statistic.h"
-#include "analyses/polymorphism/fu_li_statistics.h"
 #include "analyses/polymorphism/haplotypes.h"
 #include "analyses/polymorphism/neutrality_totals.h"
 #include "analyses/polymorphism/neutrality_windows.h"
 #include "analyses/polymorphism/poly_gauge.h"
 #include "analyses/polymorphism/sliding_window.h"
 #include "core/active_data.h"
+#include "stats/fs_statistic.h"
+#include "stats/fu_li_statistics.h"
 
 namespace ovelt {
 

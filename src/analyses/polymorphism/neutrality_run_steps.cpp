@@ -38,6 +38,7 @@ bool ShowWindowTable(ActiveData& ad, OutputChannel& channel, Platform& platform,
     channel.EndFailedRun();
     return false;
   }
+  channel.SetGraph(graph);
   channel.ShowResult(kResultAddGraph);
   channel.ShowResult(kResultTextAndGrid);
   return true;

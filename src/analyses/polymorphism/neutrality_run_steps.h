@@ -9,7 +9,7 @@
 
 #include "analyses/polymorphism/neutrality_options.h"
 #include "analyses/polymorphism/sliding_window.h"
-#include "analyses/polymorphism/window_table.h"
+#include "output/graph_data.h"
 #include "core/active_data.h"
 #include "output/output_channel.h"
 #include "ui/platform.h"

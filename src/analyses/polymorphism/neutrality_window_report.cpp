@@ -1,5 +1,7 @@
 #include "analyses/polymorphism/neutrality_window_report.h"
 
+#include "analyses/polymorphism/critical_row.h"
+#include "analyses/polymorphism/critical_tables.h"
 #include "analyses/polymorphism/neutrality_significance.h"
 #include "analyses/polymorphism/sliding_window_pi.h"
 #include "output/format_mask.h"
@@ -34,6 +36,23 @@ GraphData Graph(const WindowRows<Row>& windows, int16_t kind, Columns columns) {
   return graph;
 }
 
+// The 5 % bounds the chart draws beside a statistic; none when the table has no row for n.
+constexpr int kFivePercent = 1;
+
+void AddTajimaBound(GraphData& graph, int32_t column, int32_t n) {
+  if (const auto row = TajimaCriticalRowFor(n)) {
+    const TajimaCriticalRow& r = TajimaCriticalRows()[static_cast<size_t>(*row)];
+    graph.Bounds.push_back({column, r.lower[kFivePercent], r.upper[kFivePercent]});
+  }
+}
+
+void AddFuLiBound(GraphData& graph, int32_t column, FuLiTable table, int32_t n) {
+  if (const auto row = FuLiCriticalRowFor(n, FuLiFirstRow(table))) {
+    const FuLiCriticalRow& r = FuLiCriticalRows(table)[static_cast<size_t>(*row)];
+    graph.Bounds.push_back({column, r.lower[kFivePercent], r.upper[kFivePercent]});
+  }
+}
+
 }  // namespace
 
 std::string SignedCell(double value) {
@@ -56,8 +75,11 @@ std::vector<std::string> TajimaGridRow(const TajimaWindow& row, int32_t n) {
 }
 
 GraphData TajimaGraph(const TajimaWindows& windows) {
-  return Graph(windows, kGraphTajima,
-               [](const TajimaWindow& w) { return std::vector<double>{w.Determined ? w.D : 0.0}; });
+  GraphData graph = Graph(windows, kGraphTajima, [](const TajimaWindow& w) {
+    return std::vector<double>{w.Determined ? w.D : 0.0};
+  });
+  AddTajimaBound(graph, 2, windows.Sequences);
+  return graph;
 }
 
 std::string TajimaWindowLegend() {
@@ -81,9 +103,12 @@ std::vector<std::string> FuLiGridRow(const FuLiWindow& row, int32_t n) {
 }
 
 GraphData FuLiGraph(const FuLiWindows& windows) {
-  return Graph(windows, kGraphFuLi, [](const FuLiWindow& w) {
+  GraphData graph = Graph(windows, kGraphFuLi, [](const FuLiWindow& w) {
     return w.Determined ? std::vector<double>{w.DStar, w.FStar} : std::vector<double>{0.0, 0.0};
   });
+  AddFuLiBound(graph, 2, FuLiTable::kDStar, windows.Sequences);
+  AddFuLiBound(graph, 3, FuLiTable::kFStar, windows.Sequences);
+  return graph;
 }
 
 std::vector<std::string> FuLiOutgroupGridTitles() {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "analyses/polymorphism/neutrality_windows.h"
-#include "analyses/polymorphism/window_table.h"
+#include "output/graph_data.h"
 
 namespace ovelt {
 

@@ -1,8 +1,8 @@
 #include "analyses/polymorphism/neutrality_windows.h"
 
-#include "analyses/polymorphism/fu_li_statistics.h"
 #include "analyses/polymorphism/neutrality_totals.h"
-#include "analyses/polymorphism/tajima_d.h"
+#include "stats/fu_li_statistics.h"
+#include "stats/tajima_d.h"
 
 namespace ovelt {
 namespace {

@@ -7,10 +7,10 @@
 #include <cstdint>
 #include <vector>
 
-#include "analyses/polymorphism/fay_wu_h.h"
 #include "analyses/polymorphism/neutrality_sites.h"
 #include "analyses/polymorphism/poly_gauge.h"
 #include "analyses/polymorphism/sliding_window.h"
+#include "stats/fay_wu_h.h"
 
 namespace ovelt {
 

@@ -2,16 +2,16 @@
 
 #include <cmath>
 
-#include "analyses/polymorphism/fs_statistic.h"
-#include "analyses/polymorphism/fu_li_statistics.h"
 #include "analyses/polymorphism/haplotypes.h"
 #include "analyses/polymorphism/neutrality_significance.h"
 #include "analyses/polymorphism/neutrality_totals.h"
 #include "analyses/polymorphism/pairwise_counts.h"
 #include "analyses/polymorphism/pi_variance.h"
 #include "analyses/polymorphism/poly_stats.h"
-#include "analyses/polymorphism/tajima_d.h"
+#include "stats/fs_statistic.h"
+#include "stats/fu_li_statistics.h"
 #include "stats/harmonic.h"
+#include "stats/tajima_d.h"
 
 namespace ovelt {
 

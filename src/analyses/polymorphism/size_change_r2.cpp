@@ -1,7 +1,6 @@
 #include "analyses/polymorphism/size_change_r2.h"
 
 #include <array>
-#include <cmath>
 
 #include "analyses/polymorphism/pairwise_counts.h"
 #include "analyses/polymorphism/polymorphic_sites.h"
@@ -41,17 +40,6 @@ std::vector<double> SingletonsPerSequence(const ActiveData& ad, int32_t from, in
   ForEachColumn(ad, PolymorphicSites(ad, from, to),
                 [&](int32_t, const uint8_t* codes) { AddColumn(codes, n, u); });
   return u;
-}
-
-double R2Statistic(const std::vector<double>& singletons, double k, int32_t seg_sites) {
-  const auto n = static_cast<int32_t>(singletons.size()) - 1;
-  if (seg_sites <= 0 || n <= 0) return 0.0;
-  double sum = 0.0;
-  for (int32_t i = 1; i <= n; ++i) {
-    const double deviation = singletons[static_cast<size_t>(i)] - k / 2.0;
-    sum += deviation * deviation;
-  }
-  return std::sqrt(sum / n) / seg_sites;
 }
 
 }  // namespace ovelt

@@ -1,17 +1,16 @@
 #pragma once
-// The R2 statistic of Ramos-Onsins and Rozas (2002):
-//   R2 = Sqr(sum over sequences i of (U(i) - k / 2)^2 / n) / S,
-// U(i) the singleton mutations carried by sequence i, k the average number of differences and
-// S the segregating sites. Without an outgroup a singleton cannot be told from its complement
-// in the smallest samples, so their count is shared: with n = 2 a differing site gives half a
-// mutation to both sequences; with n = 3 a site split 2 : 1 gives a third to each sequence; with
-// n = 4 a site split 2 : 2 gives a quarter to each. Otherwise each nucleotide found once at a
-// site gives 1 to its sequence. S of 0 gives 0.
+// The singleton counts U(i) per sequence that the R2 statistic of Ramos-Onsins and Rozas (2002)
+// reads; the formula itself is R2Statistic of stats/r2_statistic.h. Without an outgroup a
+// singleton cannot be told from its complement in the smallest samples, so their count is
+// shared: with n = 2 a differing site gives half a mutation to both sequences; with n = 3 a site
+// split 2 : 1 gives a third to each sequence; with n = 4 a site split 2 : 2 gives a quarter to
+// each. Otherwise each nucleotide found once at a site gives 1 to its sequence.
 
 #include <cstdint>
 #include <vector>
 
 #include "core/active_data.h"
+#include "stats/r2_statistic.h"
 
 namespace ovelt {
 
@@ -19,8 +18,5 @@ namespace ovelt {
 // missing data are skipped.
 [[nodiscard]] std::vector<double> SingletonsPerSequence(const ActiveData& ad, int32_t from,
                                                         int32_t to);
-
-[[nodiscard]] double R2Statistic(const std::vector<double>& singletons, double k,
-                                 int32_t seg_sites);
 
 }  // namespace ovelt

@@ -127,6 +127,24 @@ SizeChangeGraph SizeChangeGraphData(const SizeChangeResult& r) {
   return g;
 }
 
+GraphData SizeChangeChart(const SizeChangeGraph& g) {
+  GraphData chart;
+  chart.GraphKind = g.GraphKind;
+  chart.GraphSubKind = g.GraphSubKind;
+  const auto rows = static_cast<int32_t>(g.X.size());
+  chart.Table = WindowTable(rows, 4);
+  for (int32_t row = 1; row <= rows; ++row) {
+    const auto i = static_cast<size_t>(row - 1);
+    chart.Table.at(row, 1) = g.X[i];
+    for (size_t s = 0; s < g.Series.size() && s < 2; ++s)
+      chart.Table.at(row, static_cast<int32_t>(s) + 2) = g.Series[s][i];
+  }
+  chart.Table.RowsUsed = rows;
+  chart.GraphRows = rows;
+  chart.SeriesNames = g.SeriesNames;
+  return chart;
+}
+
 std::string SizeChangeTooBigMessage(int64_t rows) {
   return "Output too big to be displayed on the screen !\nThere are " + StrNum(rows) + "rows !";
 }

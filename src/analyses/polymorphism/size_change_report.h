@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "analyses/polymorphism/size_change_result.h"
+#include "output/graph_data.h"
 
 namespace ovelt {
 
@@ -31,6 +32,9 @@ struct SizeChangeGraph {
 [[nodiscard]] std::vector<std::vector<std::string>> SizeChangeGridRows(const SizeChangeResult& r);
 
 [[nodiscard]] SizeChangeGraph SizeChangeGraphData(const SizeChangeResult& r);
+// The same chart as the graph window's table: X in column 1, the two series in columns 2 and 3,
+// rows from 1.
+[[nodiscard]] GraphData SizeChangeChart(const SizeChangeGraph& g);
 
 // "Output too big to be displayed on the screen !", "There are ", rows, "rows !".
 [[nodiscard]] std::string SizeChangeTooBigMessage(int64_t rows);

@@ -82,6 +82,7 @@ bool RunSizeChange(ActiveData& ad, OutputChannel& out, Platform& ui,
       out.Grid1.Rows = SizeChangeGridRows(result);
       out.SetGridTextHead(SizeChangeGridTextHead(result));
       out.ShowResult(kResultTextAndGrid);
+      out.SetGraph(SizeChangeChart(graph));
       out.ShowResult(kResultAddGraph);
     }
     out.SetBusy(false);

@@ -51,6 +51,7 @@ GraphData GcGraph(const GcWindows& windows) {
   GraphData graph;
   graph.GraphKind = kGraphPolymorphism;
   graph.Table = WindowTable(windows.Capacity, 6);
+  graph.SeriesNames = {"G+C", "A+T", "G", "C"};
   int32_t row = 0;
   for (const GcWindow& w : windows.Rows) {
     ++row;

@@ -11,7 +11,7 @@
 
 #include "analyses/polymorphism/poly_gauge.h"
 #include "analyses/polymorphism/sliding_window.h"
-#include "analyses/polymorphism/window_table.h"
+#include "output/graph_data.h"
 #include "core/active_data.h"
 
 namespace ovelt {

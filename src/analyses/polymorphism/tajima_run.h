@@ -5,7 +5,7 @@
 
 #include "analyses/polymorphism/neutrality_options.h"
 #include "analyses/polymorphism/tajima_test.h"
-#include "analyses/polymorphism/window_table.h"
+#include "output/graph_data.h"
 #include "core/active_data.h"
 #include "output/json_text.h"
 #include "output/output_channel.h"

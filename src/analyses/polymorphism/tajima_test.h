@@ -11,8 +11,8 @@
 #include "analyses/polymorphism/poly_gauge.h"
 #include "analyses/polymorphism/poly_stats.h"
 #include "analyses/polymorphism/sliding_window.h"
-#include "analyses/polymorphism/tajima_d.h"
 #include "core/active_data.h"
+#include "stats/tajima_d.h"
 
 namespace ovelt {
 

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "analyses/polymorphism/fs_statistic.h"
 #include "core/shell/command_table.h"
 #include "core/shell/workbench.h"
 #include "output/json_text.h"
+#include "stats/fs_statistic.h"
 #include "tools/calculator.h"
 #include "tools/calculator_keys.h"
 #include "tools/distribution_run.h"

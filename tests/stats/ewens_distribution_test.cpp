@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/ewens_distribution.h"
+#include "stats/ewens_distribution.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/window_table.h"
+#include "output/graph_data.h"
 
 #include <stdexcept>
 

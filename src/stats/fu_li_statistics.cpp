@@ -1,10 +1,10 @@
-#include "analyses/polymorphism/fu_li_statistics.h"
+#include "stats/fu_li_statistics.h"
 
 #include <cmath>
 #include <limits>
 
-#include "analyses/polymorphism/tajima_d.h"
 #include "stats/harmonic.h"
+#include "stats/tajima_d.h"
 
 namespace ovelt {
 namespace {

@@ -5,6 +5,7 @@
 // can hold, and `RowsUsed` tells how many the run filled.
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace ovelt {
@@ -32,13 +33,37 @@ class WindowTable {
 
 // The chart families of the graph window; a kind outside 1..16 shows no chart.
 inline constexpr int16_t kGraphPolymorphism = 1;
+inline constexpr int16_t kGraphDivergence = 2;
+inline constexpr int16_t kGraphLinkage = 3;
+inline constexpr int16_t kGraphConversion = 4;
+inline constexpr int16_t kGraphMismatch = 15;
+inline constexpr int16_t kGraphCodingRatios = 16;
+inline constexpr int16_t kFirstGraphKind = 1;
+inline constexpr int16_t kLastGraphKind = 16;
+
+// Critical values of a neutrality statistic for the sample of the run (P = 0.05): the chart
+// draws them as two horizontal lines.
+struct GraphBound {
+  int32_t Column = 0;  // the table column the bounds belong to
+  float Lower = 0.0f;
+  float Upper = 0.0f;
+};
 
 // What an analysis leaves for the graph window.
+//
+// The LD chart (kind 3) holds one row per pair of sites: column 1 the nucleotide distance,
+// columns 2..7 D, |D|, D', |D'|, R and R^2, column 8 1 for a significant pair and 0 otherwise.
+// The mismatch charts (kind 15) hold the X value in column 1 and the observed and expected
+// values in columns 2 and 3.
 struct GraphData {
   int16_t GraphKind = 0;
   int16_t GraphSubKind = 0;
   int32_t GraphRows = 0;
   WindowTable Table;
+  // Names of the columns 2.. when the analysis names them itself (the G+C windows, the curves
+  // of Sn(t)); empty for the names of the kind.
+  std::vector<std::string> SeriesNames;
+  std::vector<GraphBound> Bounds;
 };
 
 }  // namespace ovelt

@@ -1,9 +1,9 @@
-#include "analyses/polymorphism/fs_statistic.h"
+#include "stats/fs_statistic.h"
 
 #include <vector>
 
-#include "analyses/polymorphism/ewens_decimal.h"
-#include "analyses/polymorphism/ewens_distribution.h"
+#include "stats/ewens_decimal.h"
+#include "stats/ewens_distribution.h"
 
 namespace ovelt {
 namespace {

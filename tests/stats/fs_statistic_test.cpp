@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/fs_statistic.h"
+#include "stats/fs_statistic.h"
 
 #include <gtest/gtest.h>
 

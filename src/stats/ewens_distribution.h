@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "analyses/polymorphism/ewens_decimal.h"
+#include "stats/ewens_decimal.h"
 
 namespace ovelt {
 

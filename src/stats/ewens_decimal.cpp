@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/ewens_decimal.h"
+#include "stats/ewens_decimal.h"
 
 #include <charconv>
 #include <cmath>

@@ -1,11 +1,11 @@
-#include "analyses/polymorphism/fu_li_statistics.h"
+#include "stats/fu_li_statistics.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "analyses/polymorphism/tajima_d.h"
 #include "stats/harmonic.h"
+#include "stats/tajima_d.h"
 
 namespace ovelt {
 namespace {

@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/tajima_d.h"
+#include "stats/tajima_d.h"
 
 #include <gtest/gtest.h>
 

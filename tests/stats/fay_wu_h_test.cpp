@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/fay_wu_h.h"
+#include "stats/fay_wu_h.h"
 
 #include <gtest/gtest.h>
 
