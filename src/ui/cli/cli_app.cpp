@@ -6,6 +6,7 @@
 
 #include "core/shell/workbench.h"
 #include "ui/cli/cli_registry.h"
+#include "ui/cli/coalescent_command.h"
 #include "ui/cli/data_commands.h"
 #include "ui/cli/export_commands.h"
 #include "ui/cli/file_job.h"
@@ -31,6 +32,7 @@ int RunCli(int argc, char** argv, std::ostream& out, std::ostream& err) {
   AddNeutralityCommands(registry);
   AddSizeChangeCommands(registry);
   AddToolCommands(registry);
+  AddCoalescentCommand(registry);
 
   try {
     app.parse(argc, argv);
