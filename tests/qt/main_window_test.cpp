@@ -71,7 +71,7 @@ TEST_F(MainWindowTest, MenusComeFromTheModelAndFollowTheOpenFile) {
 
 TEST_F(MainWindowTest, CommandsThatAreNotBuiltAreNotShown) {
   MainWindow window(p);
-  EXPECT_FALSE(window.ActionFor("MenuGeneCoal_Click")->isVisible());
+  EXPECT_FALSE(window.ActionFor("MenuDLigamiento_Click")->isVisible());
   EXPECT_TRUE(window.ActionFor("leer_Click")->isVisible());
 }
 

@@ -7,6 +7,7 @@
 
 #include "core/shell/workbench.h"
 #include "ui/cli/console_platform.h"
+#include "ui/cli/graph_output.h"
 
 namespace ovelt {
 
@@ -52,6 +53,10 @@ void AddOutputOptions(CLI::App& app, OutputOptions& o) {
       ->group(group);
   app.add_option("--grid", o.grid, "Write the result's grid to this file as tab-separated values")
       ->group(group);
+  app.add_option("--graph", o.graph,
+                 "Draw the run's graph on this file (.png, .svg or .bmp), for the commands that "
+                 "leave one (sliding windows, mismatch distribution)")
+      ->group(group);
 }
 
 bool BeginSession(const OutputOptions& o, Workbench& wb, ConsolePlatform&) {
@@ -70,6 +75,7 @@ bool FinishOutput(const OutputOptions& o, Workbench& wb, const std::string& titl
   bool ok = true;
   if (!o.out.empty()) ok = channel.SaveCurrentOutput(o.out) && ok;
   if (!o.grid.empty()) ok = WriteGridTsv(channel.Grid1, o.grid, wb.Ui()) && ok;
+  if (!o.graph.empty()) ok = WriteGraphFile(channel, o.graph, wb.Ui()) && ok;
   channel.CloseSessionFile();
   return ok;
 }

@@ -18,6 +18,7 @@ struct OutputOptions {
   std::string out;      // Save Current Output
   std::string session;  // Send All Output to File (appended to when the file exists? no: new)
   std::string grid;     // the grid as tab-separated values
+  std::string graph;    // the run's chart as a picture (.png, .svg, .bmp)
 };
 
 void AddOutputOptions(CLI::App& app, OutputOptions& options);

@@ -15,11 +15,19 @@
 #include "output/analysis_titles.h"
 #include "ui/qt/analysis_dialogs.h"
 #include "ui/qt/data_info_window.h"
+#include "ui/qt/data_viewer_handlers.h"
+#include "ui/qt/export_dialog.h"
 #include "ui/qt/form17_dialog.h"
+#include "ui/qt/graph_handlers.h"
 #include "ui/qt/grid_window.h"
+#include "ui/qt/help_menu.h"
 #include "ui/qt/include_dialog.h"
+#include "ui/qt/print_output.h"
 #include "ui/qt/qt_platform.h"
+#include "ui/qt/set_dialogs_handlers.h"
 #include "ui/qt/text_window.h"
+#include "ui/qt/tool_bar.h"
+#include "ui/qt/tool_windows.h"
 
 namespace ovelt {
 
@@ -59,6 +67,13 @@ MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* par
 
   RegisterHandlers();
   AddAnalysisHandlers(*this);
+  AddDataViewerHandlers(*this);
+  AddPrintHandlers(*this);
+  AddHelpHandlers(*this);
+  AddExportHandlers(*this);
+  AddDataDialogHandlers(*this);
+  AddToolHandlers(*this);
+  AddGraphHandlers(*this);  // after the print handlers: it wraps printout_Click
   BuildMenus();
   BuildToolBar();
   text_ = new TextWindow(this);
@@ -114,21 +129,7 @@ void MainWindow::BuildMenus() {
   }
 }
 
-void MainWindow::BuildToolBar() {
-  QToolBar* bar = addToolBar("Tools");
-  const std::pair<const char*, const char*> buttons[] = {
-      {"Data Information", "DataInformacion_Click"}, {"Open Data File", "leer_Click"},
-      {"Save Current Output", "salvar_Click"},       {"Close Data File", "del_Click"},
-      {"Include/Exclude Sequences", "MenuIncluirSeqs_Click"}};
-  for (const auto& [label, handler] : buttons) {
-    QAction* button = bar->addAction(label);
-    const std::string h = handler;
-    // A button acts only while its menu entry is enabled.
-    connect(button, &QAction::triggered, this, [this, h] {
-      if (workbench_.Menus().Enabled(h)) Trigger(h);
-    });
-  }
-}
+void MainWindow::BuildToolBar() { BuildMainToolBar(*this); }
 
 QAction* MainWindow::ActionFor(const std::string& handler) const {
   auto it = actions_.find(handler);
@@ -156,6 +157,7 @@ void MainWindow::Refresh() {
   menus.SetText("MenuCloseOutput_Click", out.CloseOutputCaption);
   menus.SetEnabled("MenuCloseOutput_Click", out.CloseOutputEnabled);
   if (workbench_.FileOpen()) menus.SetEnabled("salvar_Click", out.SaveEnabled);
+  if (workbench_.FileOpen()) menus.SetEnabled("printout_Click", out.PrintEnabled);
   for (const MenuEntry& entry : menus.Entries()) {
     QAction* action = ActionFor(entry.handler);
     if (action == nullptr) continue;
@@ -166,6 +168,7 @@ void MainWindow::Refresh() {
   }
   setWindowTitle(Q(workbench_.WindowTitle()));
   ShowResults();
+  emit Refreshed();
 }
 
 void MainWindow::ShowResults() {

@@ -46,8 +46,17 @@ class MainWindow : public QMainWindow {
     handlers_[handler] = std::move(run);
   }
 
+  // Whether a menu handler is registered (its command is built).
+  [[nodiscard]] bool HasHandler(const std::string& handler) const {
+    return handlers_.count(handler) > 0;
+  }
+
   // Brings menus, captions, title and result windows in line with the model.
   void Refresh();
+
+ signals:
+  // After each Refresh: windows that follow the data (tool bar, data viewer) update themselves.
+  void Refreshed();
 
  protected:
   void closeEvent(QCloseEvent* event) override;

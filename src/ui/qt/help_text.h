@@ -1,0 +1,24 @@
+#pragma once
+// The words and places of the Help menu: the help file's name and the message shown when it is
+// missing, the citation, and the two web addresses. No window code here.
+
+#include <string>
+
+namespace ovelt {
+
+inline constexpr const char* kHelpFileName = "ovelt#4.hlp";
+inline constexpr const char* kBrowserError = "Browser Error";
+inline constexpr const char* kCitationTitle = "Citation";
+// Where the two web commands lead.
+inline constexpr const char* kWebPageAddress = "https://ovelt.example.org/";
+inline constexpr const char* kBugReportAddress = "https://ovelt.example.org/bugs";
+
+// "Help file: 'OVELT#4.HLP' not found. Make sure that it is in the same directory as
+// OVELT#4.EXE" for "ovelt#4.hlp": the name in upper case, and the program named by the same
+// stem.
+[[nodiscard]] std::string HelpFileNotFound(const std::string& help_file_name);
+
+// The lines of the citation window.
+[[nodiscard]] std::string CitationText();
+
+}  // namespace ovelt

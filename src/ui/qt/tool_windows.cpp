@@ -1,0 +1,44 @@
+#include "ui/qt/tool_windows.h"
+
+#include "tools/distribution_options.h"
+#include "tools/independence_options.h"
+#include "ui/qt/calculator_window.h"
+#include "ui/qt/distributions_window.h"
+#include "ui/qt/independence_window.h"
+#include "ui/qt/main_window.h"
+#include "ui/qt/tool_windows_coalescent.h"
+
+namespace ovelt {
+namespace {
+
+// A calculator with a number in the command table: the command runs while its window is open.
+template <class Window, class... Extra>
+void RunToolCommand(MainWindow& window, int16_t number, Extra... extra) {
+  Workbench& wb = window.Bench();
+  if (!wb.BeginCommand(number)) return;
+  Window tool(wb, extra..., &window);
+  tool.exec();
+  wb.EndCommand();
+}
+
+}  // namespace
+
+void AddToolHandlers(MainWindow& window) {
+  MainWindow* main = &window;
+  window.AddHandler("MenuIndependence_Click", [main] {
+    RunToolCommand<IndependenceWindow>(*main, kIndependenceCommand);
+  });
+  window.AddHandler("MenuDDistributions_Click", [main] {
+    RunToolCommand<DistributionsWindow>(*main, kDistributionsCommand);
+  });
+  window.AddHandler("MenuGeneCoal_Click", [main] {
+    RunToolCommand<CoalescentWindow>(*main, kCoalescentCommand,
+                                     SeedSuggestion(SuggestSeedFromClock));
+  });
+  window.AddHandler("MenuCalculator_Click", [main] {
+    CalculatorWindow calculator(main->Bench().Ui(), LocaleDecimalSeparator(), main);
+    calculator.exec();
+  });
+}
+
+}  // namespace ovelt
