@@ -88,9 +88,16 @@ TEST_F(MainWindowTest, DataInformationGoesToTheTextWindow) {
       if (button->text() == "Output") button->click();
     dialog->reject();
   });
+  EXPECT_EQ(window.ResultsPanelText(), "");
   window.Trigger("DataInformacion_Click");
   ASSERT_TRUE(window.Text()->isVisible());
   EXPECT_TRUE(window.Text()->Report().contains(" Total Number of Sequences     4"));
+  // The second status panel names the results on show, and empties when they go.
+  EXPECT_EQ(window.ResultsPanelText(), "Data Information");
+  p.Answers.push_back(MsgAnswer::kYes);
+  window.Trigger("del_Click");
+  EXPECT_FALSE(window.Text()->isVisible());
+  EXPECT_EQ(window.ResultsPanelText(), "");
 }
 
 TEST_F(MainWindowTest, Form17WritesOnlyOnOk) {

@@ -50,8 +50,11 @@ MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* par
   gauge_->setMaximumWidth(200);
   gauge_->hide();
   clock_ = new QLabel;
+  results_ = new QLabel;
   statusBar()->addWidget(status_, 1);
   statusBar()->addWidget(gauge_);
+  // The title of the results on show, next to the clock.
+  statusBar()->addPermanentWidget(results_);
   statusBar()->addPermanentWidget(clock_);
   if (qt_platform_ != nullptr) qt_platform_->Attach(this, status_, gauge_);
   status_->setText(kIdleStatus);
@@ -141,6 +144,8 @@ GridWindow* MainWindow::Grid() const { return grid_; }
 
 QString MainWindow::StatusText() const { return status_->text(); }
 
+QString MainWindow::ResultsPanelText() const { return results_->text(); }
+
 void MainWindow::Trigger(const std::string& handler) {
   auto it = handlers_.find(handler);
   if (it == handlers_.end() || !workbench_.Menus().Enabled(handler)) return;
@@ -176,6 +181,8 @@ void MainWindow::ShowResults() {
   const OutputWindows& windows = channel.Windows();
   const std::string title = channel.ResultTitle.empty() ? AnalysisTitle(channel.ResultCode)
                                                         : channel.ResultTitle;
+  const bool any_results = windows.Text || windows.Grid || windows.Grid2 || windows.Graph;
+  results_->setText(any_results ? Q(title) : QString());
   if (windows.Text) {
     text_->SetReport(Q(TextWindowCaption(channel.ResultCode, workbench_.Data().FileName)),
                      channel.TextBuffer);

@@ -40,6 +40,8 @@ class MainWindow : public QMainWindow {
   [[nodiscard]] TextWindow* Text() const;
   [[nodiscard]] GridWindow* Grid() const;
   [[nodiscard]] QString StatusText() const;
+  // The status panel with the title of the current results (empty when none are shown).
+  [[nodiscard]] QString ResultsPanelText() const;
 
   // Adds or replaces the handler of a menu entry (before the menus are built).
   void AddHandler(const std::string& handler, std::function<void()> run) {
@@ -78,6 +80,7 @@ class MainWindow : public QMainWindow {
   std::map<std::string, std::function<void()>> handlers_;
   QLabel* status_ = nullptr;
   QLabel* clock_ = nullptr;
+  QLabel* results_ = nullptr;
   QProgressBar* gauge_ = nullptr;
   QTimer* timer_ = nullptr;
   TextWindow* text_ = nullptr;  // children of this window
