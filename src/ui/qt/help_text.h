@@ -13,10 +13,11 @@ inline constexpr const char* kCitationTitle = "Citation";
 inline constexpr const char* kWebPageAddress = "https://ovelt.example.org/";
 inline constexpr const char* kBugReportAddress = "https://ovelt.example.org/bugs";
 
-// "Help file: 'OVELT#4.HLP' not found. Make sure that it is in the same directory as
-// OVELT#4.EXE" for "ovelt#4.hlp": the name in upper case, and the program named by the same
-// stem.
-[[nodiscard]] std::string HelpFileNotFound(const std::string& help_file_name);
+// The message when the help file is missing. Its words have named the help file of an older
+// release ever since, and users know them as they are.
+inline constexpr const char* kHelpFileMissing =
+    "Help file: 'OVELT#2.HLP' not found. Make sure that it is in the same directory as "
+    "OVELT#2.EXE";
 
 // The lines of the citation window.
 [[nodiscard]] std::string CitationText();
