@@ -87,6 +87,8 @@ void OutputChannel::SetGraph(GraphData graph) {
   graph_ = std::move(graph);
   ++graph_serial_;
   GraphOn = 1;
+  // A chart to show turns the graph buttons on, as ShowResult 11 and 12 do.
+  commands_.GraphButtonsEnabled = true;
 }
 
 void OutputChannel::AppendText(const std::string& text) { TextBuffer += text; }

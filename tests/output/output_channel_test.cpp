@@ -135,6 +135,16 @@ TEST(OutputChannel, GraphButtonsAndGraphAddedThenRemoved) {
   EXPECT_TRUE(channel.Windows().Text);
 }
 
+TEST(OutputChannel, AChartTurnsTheGraphButtonsOnUntilTheNextRun) {
+  ScriptedPlatform platform;
+  OutputChannel channel(platform);
+  EXPECT_FALSE(channel.Commands().GraphButtonsEnabled);
+  channel.SetGraph(GraphData{});
+  EXPECT_TRUE(channel.Commands().GraphButtonsEnabled);
+  channel.ResetOutputs();
+  EXPECT_FALSE(channel.Commands().GraphButtonsEnabled);
+}
+
 TEST(OutputChannel, UnknownKindChangesNothing) {
   ScriptedPlatform platform;
   OutputChannel channel(platform);

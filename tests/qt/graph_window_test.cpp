@@ -70,9 +70,12 @@ std::string Head(const std::string& path, size_t bytes) {
 
 TEST(GraphWindowTest, GraphsEntryShowsTheRunsChartWithItsChooser) {
   Desk d;
-  d.RunWindows();
   QAction* entry = d.window.ActionFor("grafics_Click");
   ASSERT_NE(entry, nullptr);
+  // No chart yet: the graph buttons are off until a run leaves one.
+  EXPECT_FALSE(entry->isEnabled());
+  d.RunWindows();
+  EXPECT_TRUE(entry->isEnabled());
   EXPECT_TRUE(entry->isVisible());
   EXPECT_EQ(entry->text(), "&Graphs...");
   GraphWindow* graph = d.Open();

@@ -89,7 +89,9 @@ TEST_F(MainWindowTest, DataInformationGoesToTheTextWindow) {
     dialog->reject();
   });
   EXPECT_EQ(window.ResultsPanelText(), "");
+  window.Bench().Output().ResultCode = 12;  // as if Fu and Li's tests had run before
   window.Trigger("DataInformacion_Click");
+  EXPECT_FALSE(window.Text()->windowTitle().contains("Fu and Li"));
   ASSERT_TRUE(window.Text()->isVisible());
   EXPECT_TRUE(window.Text()->Report().contains(" Total Number of Sequences     4"));
   // The second status panel names the results on show, and empties when they go.

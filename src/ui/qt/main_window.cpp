@@ -163,6 +163,8 @@ void MainWindow::Refresh() {
   menus.SetEnabled("MenuCloseOutput_Click", out.CloseOutputEnabled);
   if (workbench_.FileOpen()) menus.SetEnabled("salvar_Click", out.SaveEnabled);
   if (workbench_.FileOpen()) menus.SetEnabled("printout_Click", out.PrintEnabled);
+  // The graph buttons stand only while a result has left a chart.
+  if (workbench_.FileOpen()) menus.SetEnabled("grafics_Click", out.GraphButtonsEnabled);
   for (const MenuEntry& entry : menus.Entries()) {
     QAction* action = ActionFor(entry.handler);
     if (action == nullptr) continue;
@@ -206,6 +208,8 @@ void MainWindow::ShowDataInformation() {
   DataInfoWindow window(rows, [this, rows] {
     OutputChannel& channel = workbench_.Output();
     channel.ResetOutputs();
+    // Not the output of an analysis: no earlier run's caption or save path may stick to it.
+    channel.ResultCode = 0;
     channel.AppendText(DataInformationText(rows));
     channel.ResultTitle = kDataInformationTitle;
     channel.ShowResult(kResultTextOnly);
