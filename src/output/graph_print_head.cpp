@@ -33,8 +33,24 @@ std::vector<std::string> GraphPrintHead(const GraphPrintFacts& facts) {
     lines.push_back(title);
     lines.push_back(std::string(title.size(), '-'));
   }
-  if (!facts.PopulationName.empty()) lines.push_back(" Population used: " + facts.PopulationName);
-  lines.push_back("    Number of sequences used: " + std::to_string(facts.SequencesUsed));
+  const auto two_sets = [&](const char* first, const char* second) {
+    lines.push_back(first + facts.PopulationName);
+    lines.push_back("     Number of sequences: " + std::to_string(facts.SequencesUsed));
+    lines.push_back(second + facts.SecondName);
+    lines.push_back("     Number of sequences: " + std::to_string(facts.SecondSequences));
+  };
+  switch (facts.GraphKind) {
+    case kGraphDivergence:
+      two_sets(" Population 1: ", " Population 2: ");
+      break;
+    case kGraphFuLiOutgroup:
+      two_sets(" Intraspecific Data: ", " Interspecific Data (outgroup): ");
+      break;
+    default:
+      if (!facts.PopulationName.empty())
+        lines.push_back(" Population used: " + facts.PopulationName);
+      lines.push_back("    Number of sequences used: " + std::to_string(facts.SequencesUsed));
+  }
   return lines;
 }
 

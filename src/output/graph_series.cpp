@@ -4,9 +4,6 @@ namespace ovelt {
 
 namespace {
 
-constexpr int16_t kTajimaGraph = 5;
-constexpr int16_t kFuLiGraph = 6;
-constexpr int16_t kFuLiOutgroupGraph = 7;
 constexpr int32_t kFirstStatisticColumn = 2;
 
 // One series per column from column 2 on, as far as the table holds them.
@@ -35,7 +32,7 @@ void AddCombined(std::vector<GraphSeries>& offered, const std::vector<GraphSerie
 bool IsGraphKind(int16_t kind) { return kind >= kFirstGraphKind && kind <= kLastGraphKind; }
 
 bool IsNeutralityGraph(int16_t kind) {
-  return kind == kTajimaGraph || kind == kFuLiGraph || kind == kFuLiOutgroupGraph;
+  return kind == kGraphTajima || kind == kGraphFuLi || kind == kGraphFuLiOutgroup;
 }
 
 std::vector<GraphSeries> SeriesOffered(const GraphData& graph) {
@@ -57,9 +54,9 @@ std::vector<GraphSeries> SeriesOffered(const GraphData& graph) {
     }
     case kGraphLinkage:
       return OnePerColumn({"D", "|D|", "D'", "|D'|", "R", "R^2"}, columns);
-    case kTajimaGraph:
+    case kGraphTajima:
       return OnePerColumn({"D"}, columns);
-    case kFuLiGraph:
+    case kGraphFuLi:
       return OnePerColumn({"D*", "F*"}, columns);
     case kGraphMismatch: {
       // One chart of observed and expected values; its name says what the X axis counts.
@@ -76,7 +73,7 @@ std::vector<GraphSeries> SeriesOffered(const GraphData& graph) {
       return OnePerColumn({"Pi", "Theta", "S"}, columns);
     case kGraphConversion:
       return OnePerColumn({"Psi"}, columns);
-    case kFuLiOutgroupGraph:
+    case kGraphFuLiOutgroup:
       return OnePerColumn({"FL-D", "FL-F", "FW-H"}, columns);
     default:
       return OnePerColumn({"Pi", "Theta", "S", "Psi", "FL-D", "FL-F", "FW-H"}, columns);

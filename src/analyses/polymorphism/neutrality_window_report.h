@@ -12,11 +12,6 @@
 
 namespace ovelt {
 
-// Chart families of the graph window for these tables.
-inline constexpr int16_t kGraphTajima = 5;
-inline constexpr int16_t kGraphFuLi = 6;
-inline constexpr int16_t kGraphFuLiOutgroup = 7;
-
 // " 0.1234" or "-0.1234".
 [[nodiscard]] std::string SignedCell(double value);
 

@@ -52,6 +52,9 @@ GraphPrintFacts PrintFacts(Workbench& wb, int16_t kind) {
   if (ad.SelSet1 > 0 && static_cast<size_t>(ad.SelSet1) < ad.SequenceSets.size())
     facts.PopulationName = ad.SequenceSets[static_cast<size_t>(ad.SelSet1)].nombre();
   facts.SequencesUsed = ad.SelCount1;
+  if (ad.SelSet2 > 0 && static_cast<size_t>(ad.SelSet2) < ad.SequenceSets.size())
+    facts.SecondName = ad.SequenceSets[static_cast<size_t>(ad.SelSet2)].nombre();
+  facts.SecondSequences = ad.SelCount2;
   return facts;
 }
 
