@@ -77,6 +77,13 @@ int32_t TailSize(float percent, int32_t replicates) {
   return k == 0 ? 1 : static_cast<int32_t>(k);
 }
 
+int32_t ReducedTailSize(float percent, int32_t effective) {
+  // Multiplied before the division, so that whole percents give the exact quotient.
+  const double product = static_cast<double>(effective) * (100.0 - static_cast<double>(percent));
+  const auto k = static_cast<int32_t>(std::floor(product / 200.0));
+  return k == 0 ? 1 : k;
+}
+
 std::string SegSitesTextOnSwitch(const std::string& thetaText) {
   const auto theta = ReadTypedNumber(thetaText);
   const double whole = theta ? std::trunc(*theta) : 0.0;

@@ -83,4 +83,8 @@ struct SimulationMessage {
 // replicates in single precision, 0 taken as 1.
 [[nodiscard]] int32_t TailSize(float percent, int32_t replicates);
 
+// k', the tail size recomputed when fewer replicates than k did not fail: the integer part of
+// effective x (100 - percent) / 200, taken exactly (not in single precision), 0 taken as 1.
+[[nodiscard]] int32_t ReducedTailSize(float percent, int32_t effective);
+
 }  // namespace ovelt

@@ -86,9 +86,7 @@ SimulationResult Finish(const SimulationSpec& sim, const ReplicateTails& tails, 
   r.UpperLimit = tails.High(k);
   const int32_t effective = r.EffectiveReplicates;
   if (effective > 0 && effective < k) {
-    const float share = (100.0f - sim.ConfidencePercent) / 200.0f;
-    int32_t kk = static_cast<int32_t>(static_cast<float>(effective) * share);
-    if (kk == 0) kk = 1;
+    const int32_t kk = ReducedTailSize(sim.ConfidencePercent, effective);
     std::vector<double> values;
     for (int32_t i = 1; i <= effective; ++i) values.push_back(tails.Low(i));
     std::sort(values.begin(), values.end());

@@ -230,6 +230,16 @@ TEST(ReadSimulationForm, ThetaFromSegregatingSitesIsANoticeNotARefusal) {
   EXPECT_FALSE(ThetaFromSegSitesNotice(GivenMode::kSegSites, kCodePi));
 }
 
+TEST(ReducedTailSize, IsTakenExactlyNotInSinglePrecision) {
+  // 4800 x 84 / 200 = 2016 exactly; in single precision the share 0.42 falls just below and
+  // the product truncates to 2015.
+  EXPECT_EQ(static_cast<int32_t>(4800.0f * ((100.0f - 16.0f) / 200.0f)), 2015);
+  EXPECT_EQ(ReducedTailSize(16.0f, 4800), 2016);
+  EXPECT_EQ(ReducedTailSize(95.0f, 400), 10);
+  EXPECT_EQ(ReducedTailSize(95.0f, 39), 1);  // 0.975 truncates to 0, taken as 1
+  EXPECT_EQ(ReducedTailSize(100.0f, 500), 1);
+}
+
 TEST(TailSize, IsTheIntegerPartWithZeroTakenAsOne) {
   EXPECT_EQ(TailSize(95.0f, 1000), 25);
   EXPECT_EQ(TailSize(95.0f, 1), 1);

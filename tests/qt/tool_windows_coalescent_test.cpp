@@ -33,7 +33,9 @@ std::string Fixed(double value, int decimals) {
 
 class CoalescentWindowTest : public ::testing::Test {
  protected:
-  CoalescentWindowTest() : wb(p), w(wb, [this] { return next_seed++; }) {}
+  CoalescentWindowTest() : wb(p), w(wb, [this] { return next_seed++; }) {
+    w.SetSecondWait([this](const QTime&) { ++second_waits; });
+  }
   void Choose(const QString& name) {
     const int index = w.Statistics()->findText(name);
     ASSERT_GE(index, 0) << name.toStdString();
@@ -42,8 +44,25 @@ class CoalescentWindowTest : public ::testing::Test {
   ScriptedPlatform p;
   Workbench wb;
   int32_t next_seed = 4242;
+  int second_waits = 0;
   CoalescentWindow w;
 };
+
+TEST(CoalescentWindowClock, TheWaitEndsInTheNextSecond) {
+  const QTime started = QTime::currentTime();
+  WaitForTheNextSecond(started);
+  EXPECT_NE(QTime::currentTime().second(), started.second());
+}
+
+TEST_F(CoalescentWindowTest, OnlyAFinishedRunWaitsForTheNextSecond) {
+  w.SampleSizeBox()->setText("1");
+  w.RunButton()->click();
+  EXPECT_EQ(second_waits, 0);
+  w.SampleSizeBox()->setText("10");
+  w.ReplicatesBox()->setText("20");
+  w.RunButton()->click();
+  EXPECT_EQ(second_waits, 1);
+}
 
 TEST_F(CoalescentWindowTest, OpensWithTheDefaultsAndASuggestedSeed) {
   EXPECT_EQ(w.windowTitle(), "The Coalescent");

@@ -13,7 +13,11 @@
 #include <QRadioButton>
 #include <QRandomGenerator>
 #include <QRegularExpressionValidator>
+#include <QThread>
 #include <QVBoxLayout>
+
+#include <exception>
+#include <variant>
 
 #include "coalescent/coalescent_run.h"
 #include "coalescent/simulation_report.h"
@@ -26,6 +30,9 @@ namespace ovelt {
 namespace {
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
+
+// A failure of the window's own handler, outside the simulation module.
+constexpr const char* kDialogErrorText = "Error in the Coalescent Simulations Module";
 
 // Typed numbers take digits and either separator; the observed value also a sign.
 QLineEdit* NumberBox(const std::string& text, bool signed_number, QWidget* parent) {
@@ -252,8 +259,22 @@ void CoalescentWindow::ClearResults() {
   print_->setEnabled(false);
 }
 
+void WaitForTheNextSecond(const QTime& started) {
+  while (QTime::currentTime().second() == started.second()) QThread::msleep(10);
+}
+
 void CoalescentWindow::OnRun() {
-  QApplication::beep();
+  try {
+    RunAndShow();
+  } catch (const std::exception&) {
+    wb_.Ui().MessageBox(kDialogErrorText, MsgIcon::kCritical);
+  }
+}
+
+void CoalescentWindow::RunAndShow() {
+  const QTime started = QTime::currentTime();
+  // The beep marks the start of a run, so a refused form stays silent.
+  if (std::holds_alternative<SimulationSpec>(ReadSimulationForm(Form()))) QApplication::beep();
   OutputChannel& channel = wb_.Output();
   channel.ReopenDialog = 0;
   CoalescentRun run;
@@ -277,7 +298,7 @@ void CoalescentWindow::OnRun() {
   seed_->setText(QString::number(suggest_seed_()));
   filling_ = false;
   save_->setEnabled(true);
-  print_->setEnabled(true);
+  print_->setEnabled(true);  wait_second_(started);
 }
 
 void CoalescentWindow::OnSave() {

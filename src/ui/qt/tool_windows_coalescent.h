@@ -5,6 +5,7 @@
 // Output" and the session file get it as they get any analysis.
 
 #include <QDialog>
+#include <QTime>
 
 #include <functional>
 
@@ -27,6 +28,11 @@ inline constexpr const char* kCoalescentCaption = "The Coalescent";
 // The next suggested seed: the integer part of a uniform deviate times 1e7.
 using SeedSuggestion = std::function<int32_t()>;
 [[nodiscard]] int32_t SuggestSeedFromClock();
+
+// What a finished run does last: wait until the clock's second differs from the one at which
+// the run began, so that two runs never begin in the same second.
+using SecondWait = std::function<void(const QTime& started)>;
+void WaitForTheNextSecond(const QTime& started);
 
 class CoalescentWindow : public QDialog {
   Q_OBJECT
@@ -54,6 +60,7 @@ class CoalescentWindow : public QDialog {
   [[nodiscard]] QPushButton* PrintButton() const { return print_; }
   [[nodiscard]] QPushButton* CancelButton() const { return cancel_; }
   void SetPrinterChooser(PrinterChooser choose) { choose_printer_ = std::move(choose); }
+  void SetSecondWait(SecondWait wait) { wait_second_ = std::move(wait); }
 
   // The results area.
   [[nodiscard]] QString HeadingText() const;
@@ -77,12 +84,14 @@ class CoalescentWindow : public QDialog {
   void Relabel();
   void ClearResults();
   void OnRun();
+  void RunAndShow();
   void OnSave();
   void OnPrint();
 
   Workbench& wb_;
   SeedSuggestion suggest_seed_;
   PrinterChooser choose_printer_ = ChoosePrinterByDialog;
+  SecondWait wait_second_ = WaitForTheNextSecond;
 
   QRadioButton* theta_option_;
   QRadioButton* segsites_option_;
