@@ -22,7 +22,8 @@ double G(double a, double b, double c, double d) {
 }  // namespace
 
 float GTest(int32_t a, int32_t b, int32_t c, int32_t d, double& adjusted) {
-  const double g = G(a, b, c, d);
+  // G is never negative; a table of independent cells can round to a hair below zero.
+  const double g = std::max(G(a, b, c, d), 0.0);
   const double n = static_cast<double>(a) + b + c + d;
   const double q = (n / (static_cast<double>(a) + b) + n / (static_cast<double>(c) + d) - 1.0) *
                        (n / (static_cast<double>(a) + c) + n / (static_cast<double>(b) + d) - 1.0) /

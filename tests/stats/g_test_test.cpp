@@ -61,6 +61,17 @@ TEST(GTest, EmptyCellIsLeftToTheCaller) {
   }
 }
 
+TEST(GTest, IndependentTableGivesZeroNotANegativeRounding) {
+  double adjusted = -1;
+  // (5 5 / 5 5): the sums of x ln x cancel exactly in theory and to about 1e-15 in doubles.
+  EXPECT_EQ(GTest(5, 5, 5, 5, adjusted), 0.0f);
+  EXPECT_EQ(adjusted, 0.0);
+  const float g = GTest(10, 20, 30, 60, adjusted);
+  EXPECT_GE(g, 0.0f);
+  EXPECT_LT(g, 1e-9f);
+  EXPECT_GE(adjusted, 0.0);
+}
+
 TEST(GTestFloat, CellsMovedByAHalf) {
   // (3 1 / 1 3) moved towards independence: (2.5 1.5 / 1.5 2.5).
   const double expected = GByExpectations({2.5, 1.5, 1.5, 2.5});
