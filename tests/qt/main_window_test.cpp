@@ -102,6 +102,24 @@ TEST_F(MainWindowTest, DataInformationGoesToTheTextWindow) {
   EXPECT_EQ(window.ResultsPanelText(), "");
 }
 
+TEST_F(MainWindowTest, SecondGridShowsWithItsCaptionAndGoesWithTheNextRun) {
+  MainWindow window(p);
+  ASSERT_TRUE(window.Bench().OpenPath(file));
+  OutputChannel& channel = window.Bench().Output();
+  channel.ResetOutputs();
+  channel.ResultCode = 23;  // codon usage
+  channel.Grid2.ColumnTitles = {"Codon", "Count"};
+  channel.Grid2.Rows.push_back({"TTT", "4"});
+  channel.ShowResult(kResultSecondGrid);
+  window.Refresh();
+  ASSERT_TRUE(window.SecondGrid()->isVisible());
+  EXPECT_EQ(window.SecondGrid()->windowTitle(), "Codon Usage of:");
+  EXPECT_FALSE(window.Grid()->isVisible());
+  channel.ResetOutputs();
+  window.Refresh();
+  EXPECT_FALSE(window.SecondGrid()->isVisible());
+}
+
 TEST_F(MainWindowTest, Form17WritesOnlyOnOk) {
   MainWindow window(p);
   ASSERT_TRUE(window.Bench().OpenPath(file));

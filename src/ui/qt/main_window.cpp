@@ -81,6 +81,7 @@ MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* par
   BuildToolBar();
   text_ = new TextWindow(this);
   grid_ = new GridWindow(this);
+  grid2_ = new GridWindow(this);
   setWindowTitle(Q(workbench_.WindowTitle()));
   resize(900, 600);
   Refresh();
@@ -200,6 +201,13 @@ void MainWindow::ShowResults() {
     grid_->show();
   } else {
     grid_->hide();
+  }
+  if (windows.Grid2) {
+    grid2_->SetGrid(Q(SecondGridWindowCaption(channel.ResultCode)), channel.Grid2,
+                    channel.GridRows);
+    grid2_->show();
+  } else {
+    grid2_->hide();
   }
 }
 

@@ -39,6 +39,8 @@ class MainWindow : public QMainWindow {
   void Trigger(const std::string& handler);
   [[nodiscard]] TextWindow* Text() const;
   [[nodiscard]] GridWindow* Grid() const;
+  // The second grid window, for the tables of the polymorphism and divergence group.
+  [[nodiscard]] GridWindow* SecondGrid() const { return grid2_; }
   [[nodiscard]] QString StatusText() const;
   // The status panel with the title of the current results (empty when none are shown).
   [[nodiscard]] QString ResultsPanelText() const;
@@ -85,6 +87,7 @@ class MainWindow : public QMainWindow {
   QTimer* timer_ = nullptr;
   TextWindow* text_ = nullptr;  // children of this window
   GridWindow* grid_ = nullptr;
+  GridWindow* grid2_ = nullptr;
 };
 
 }  // namespace ovelt
