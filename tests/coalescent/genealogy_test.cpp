@@ -7,27 +7,13 @@
 #include <vector>
 
 #include "coalescent/coalescent_random.h"
+#include "simulation_test_support.h"
 #include "stats/harmonic.h"
 
 namespace ovelt {
 namespace {
 
-struct Moments {
-  double sum = 0.0, squares = 0.0;
-  int64_t count = 0;
-  void Add(double x) {
-    sum += x;
-    squares += x * x;
-    ++count;
-  }
-  [[nodiscard]] double Mean() const { return sum / static_cast<double>(count); }
-  [[nodiscard]] double Variance() const {
-    const double m = Mean();
-    return (squares - static_cast<double>(count) * m * m) / static_cast<double>(count - 1);
-  }
-  // Five standard errors of the mean.
-  [[nodiscard]] double Tolerance() const { return 5.0 * std::sqrt(Variance() / count); }
-};
+using testing::Moments;
 
 TEST(MakeTree, TwoSequencesMakeTheSingleInternalNodeTwo) {
   Genealogy g;

@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <string>
 
+#include "support/hand_math.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
 #include "ui/qt/main_window.h"
@@ -21,15 +22,10 @@
 namespace ovelt {
 namespace {
 
+using testing::Fixed;
 using testing::ReadBytes;
 using testing::ScriptedPlatform;
 using testing::TempDir;
-
-std::string Fixed(double value, int decimals) {
-  char text[64];
-  std::snprintf(text, sizeof text, "%.*f", decimals, value);
-  return text;
-}
 
 class CoalescentWindowTest : public ::testing::Test {
  protected:

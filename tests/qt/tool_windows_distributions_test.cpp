@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <string>
 
+#include "support/hand_math.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
 #include "ui/qt/distributions_window.h"
@@ -20,21 +21,11 @@
 namespace ovelt {
 namespace {
 
+using testing::Choose;
+using testing::Fixed;
 using testing::ReadBytes;
 using testing::ScriptedPlatform;
 using testing::TempDir;
-
-std::string Fixed(double value, int decimals) {
-  char text[64];
-  std::snprintf(text, sizeof text, "%.*f", decimals, value);
-  return text;
-}
-
-double Choose(int n, int k) {
-  double c = 1;
-  for (int i = 1; i <= k; ++i) c = c * (n - k + i) / i;
-  return c;
-}
 
 class DistributionsWindowTest : public ::testing::Test {
  protected:

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "support/hand_math.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
 #include "ui/qt/independence_window.h"
@@ -22,21 +23,11 @@
 namespace ovelt {
 namespace {
 
+using testing::Choose;
+using testing::Fixed;
 using testing::ReadBytes;
 using testing::ScriptedPlatform;
 using testing::TempDir;
-
-std::string Fixed(double value, int decimals) {
-  char text[64];
-  std::snprintf(text, sizeof text, "%.*f", decimals, value);
-  return text;
-}
-
-double Choose(int n, int k) {
-  double c = 1;
-  for (int i = 1; i <= k; ++i) c = c * (n - k + i) / i;
-  return c;
-}
 
 // Fisher's exact test by enumeration of every table with the observed margins. The first tail
 // runs from the observed a to the extreme in the direction a lies from its expectation; the

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "support/hand_math.h"
 #include "tools/binomial_distribution.h"
 #include "tools/hypergeometric_distribution.h"
 #include "tools/poisson_distribution.h"
@@ -10,11 +11,7 @@
 namespace ovelt {
 namespace {
 
-double Choose(int n, int k) {
-  double value = 1;
-  for (int i = 1; i <= k; ++i) value = value * (n - k + i) / i;
-  return value;
-}
+using testing::Choose;
 
 // C(n, i) p^i (1 - p)^(n - i) by direct products.
 double BinomialByProducts(double p, int n, int i) {

@@ -5,16 +5,13 @@
 #include <cmath>
 #include <vector>
 
+#include "support/hand_math.h"
 #include "tools/independence_g.h"
 
 namespace ovelt {
 namespace {
 
-double Choose(int n, int k) {
-  double value = 1;
-  for (int i = 1; i <= k; ++i) value = value * (n - k + i) / i;
-  return value;
-}
+using testing::Choose;
 
 // P of the table with first cell `a` among those with the margins of `t`, by direct products.
 double TableProbability(const TwoByTwoTable& t, int a) {
