@@ -4,6 +4,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QImage>
+#include <QPainter>
 #include <QTableView>
 #include <QTimer>
 
@@ -18,6 +20,7 @@
 #include "ui/qt/data_viewer_options.h"
 #include "ui/qt/data_viewer_window.h"
 #include "ui/qt/main_window.h"
+#include "ui/qt/viewer_cell_delegate.h"
 
 namespace ovelt {
 namespace {
@@ -250,6 +253,54 @@ TEST_F(ViewerOnFile, ViewerFollowsTheIncludedSequences) {
   EXPECT_EQ(m.rowCount(), 3);
   EXPECT_EQ(Cell(m, 2, 8), "");
   EXPECT_EQ(Cell(m, 2, 9), "s");
+}
+
+}  // namespace
+}  // namespace ovelt
+
+namespace ovelt {
+namespace {
+
+// A one-cell model: a letter on a coloured background.
+class OneCell : public QAbstractTableModel {
+ public:
+  int rowCount(const QModelIndex& = QModelIndex()) const override { return 1; }
+  int columnCount(const QModelIndex& = QModelIndex()) const override { return 1; }
+  QVariant data(const QModelIndex&, int role) const override {
+    if (role == Qt::DisplayRole) return QString("A");
+    if (role == Qt::BackgroundRole) return QBrush(QColor(255, 255, 0));
+    return {};
+  }
+};
+
+TEST(ViewerCellDelegate, PaintsTheModelsBackgroundAndItsLetter) {
+  OneCell model;
+  ViewerCellDelegate delegate;
+  QImage image(40, 40, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QStyleOptionViewItem option;
+  option.rect = QRect(0, 0, 40, 40);
+  option.font = QFont();
+  option.font.setPixelSize(30);
+  option.palette.setColor(QPalette::Text, Qt::black);
+  {
+    QPainter painter(&image);
+    delegate.paint(&painter, option, model.index(0, 0));
+  }
+  // The corner keeps the background; the middle column crosses the letter's strokes.
+  EXPECT_EQ(image.pixelColor(1, 1), QColor(255, 255, 0));
+  bool dark = false;
+  for (int y = 0; y < 40; ++y) dark = dark || image.pixelColor(20, y).lightness() < 100;
+  EXPECT_TRUE(dark);
+
+  // A selected cell takes the palette's highlight instead.
+  option.state |= QStyle::State_Selected;
+  option.palette.setColor(QPalette::Highlight, QColor(0, 0, 200));
+  {
+    QPainter painter(&image);
+    delegate.paint(&painter, option, model.index(0, 0));
+  }
+  EXPECT_EQ(image.pixelColor(1, 1), QColor(0, 0, 200));
 }
 
 }  // namespace

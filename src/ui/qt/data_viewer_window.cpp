@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "core/viewer_texts.h"
+#include "ui/qt/viewer_cell_delegate.h"
 
 namespace ovelt {
 
@@ -43,6 +44,7 @@ DataViewerWindow::DataViewerWindow(const ActiveData& ad, const ViewerDisplayOpti
   view_->setShowGrid(false);
   view_->setSelectionMode(QAbstractItemView::SingleSelection);
   view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  view_->setItemDelegate(new ViewerCellDelegate(view_));
   // Uniform widths and heights: the headers never measure the cells.
   const QFontMetrics metrics(fixed);
   QHeaderView* across = view_->horizontalHeader();
