@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -67,6 +68,13 @@ TEST_F(MainWindowTest, MenusComeFromTheModelAndFollowTheOpenFile) {
   EXPECT_EQ(p.Boxes.back().Text, "Close file ? \nInput data file: " + file);
   EXPECT_TRUE(open->isEnabled());
   EXPECT_EQ(window.windowTitle(), "Ovelt Workbench");
+}
+
+TEST_F(MainWindowTest, TheFrameShowsTheVersion) {
+  MainWindow window(p);
+  auto* frame = window.findChild<QLabel*>("versionFrame");
+  ASSERT_NE(frame, nullptr);
+  EXPECT_TRUE(frame->text().contains("Ver. 4.00.5"));
 }
 
 TEST_F(MainWindowTest, CommandsThatAreNotBuiltAreNotShown) {

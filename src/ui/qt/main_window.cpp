@@ -79,6 +79,12 @@ MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* par
   AddGraphHandlers(*this);  // after the print handlers: it wraps printout_Click
   BuildMenus();
   BuildToolBar();
+  // The frame in the middle of the window shows the program and its version.
+  auto* version = new QLabel(QString("Ovelt Workbench\n") + kVersionText + "  (" + kVersionDate + ")");
+  version->setObjectName("versionFrame");
+  version->setAlignment(Qt::AlignCenter);
+  version->setFrameShape(QFrame::StyledPanel);
+  setCentralWidget(version);
   text_ = new TextWindow(this);
   grid_ = new GridWindow(this);
   grid2_ = new GridWindow(this);
