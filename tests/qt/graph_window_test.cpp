@@ -237,6 +237,10 @@ TEST(GraphWindowTest, SignButtonOfTheLinkageChart) {
   EXPECT_EQ(graph.Chooser()->count(), 6);
   graph.SignButton()->setChecked(true);
   EXPECT_TRUE(d.Said("There are 0 significant values"));
+  // Another series with "Sign" still down redraws without saying it again.
+  const size_t said = d.platform.Boxes.size();
+  graph.Chooser()->setCurrentIndex(3);
+  EXPECT_EQ(d.platform.Boxes.size(), said);
   graph.ShowGraph(Linkage(true));
   EXPECT_FALSE(graph.SignButton()->isChecked());
   const size_t boxes = d.platform.Boxes.size();

@@ -89,7 +89,8 @@ GraphWindow::GraphWindow(Workbench& workbench, QWidget* parent)
   connect(chooser_, &QComboBox::currentIndexChanged, this, [this] {
     if (!filling_) Draw();
   });
-  connect(sign_, &QPushButton::toggled, this, [this] { Draw(); });
+  // Only pressing "Sign" asks for the significant pairs; a redraw with it down stays quiet.
+  connect(sign_, &QPushButton::toggled, this, [this](bool on) { Draw(on); });
   connect(save, &QPushButton::clicked, this, [this] { SaveGraph(); });
   connect(copy, &QPushButton::clicked, this, [this] { CopyGraph(); });
   connect(colours, &QPushButton::clicked, this, [this] { ChangeColours(); });
@@ -115,11 +116,11 @@ void GraphWindow::ShowGraph(const GraphData& graph) {
   }
 }
 
-void GraphWindow::Draw() {
+void GraphWindow::Draw(bool say_message) {
   try {
     picture_ = LayoutGraph(graph_, {chooser_->currentIndex(), sign_->isChecked()});
     canvas_->update();
-    if (!picture_.Message.empty())
+    if (say_message && !picture_.Message.empty())
       workbench_.Ui().MessageBox(picture_.Message, MsgIcon::kInformation);
   } catch (const std::exception&) {
     Fail();

@@ -39,8 +39,9 @@ class GraphWindow : public QWidget {
   // `Form_Load`: takes the chart, fills the chooser and draws its first series. A kind outside
   // 1..16 leaves the window empty without a word; a failure says "Error Displaying Graph".
   void ShowGraph(const GraphData& graph);
-  // Draws the series chosen in the chooser (and the significant pairs when "Sign" is down).
-  void Draw();
+  // Draws the series chosen in the chooser (and the significant pairs when "Sign" is down);
+  // with `say_message`, shows the layout's message ("There are 0 significant values").
+  void Draw(bool say_message = false);
 
   // "Save Graph...": the save dialog, then the file. False when nothing was written.
   bool SaveGraph();
