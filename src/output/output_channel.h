@@ -62,9 +62,11 @@ struct OutputCommands {
   bool PrintEnabled = false;
   bool GraphButtonsEnabled = false;
   bool IdleCommandsEnabled = true;
-  std::string SendAllCaption = "&Send All Output to File...";
+  // At start-up the entries carry the access keys of the menu ("Send &All", "Close &Output"); once
+  // a session file has been closed they read "&Send All" and "&Close Output File".
+  std::string SendAllCaption = "Send &All Output to File...";
   bool SendAllEnabled = true;
-  std::string CloseOutputCaption = "&Close Output File";
+  std::string CloseOutputCaption = "Close &Output File";
   bool CloseOutputEnabled = false;
 };
 

@@ -20,8 +20,8 @@ TEST(OutputChannel, StartsIdle) {
   EXPECT_EQ(channel.SessionOpen, 0);
   EXPECT_EQ(channel.SessionFileNo, 0);
   EXPECT_EQ(channel.Commands().SaveCaption, "Save Current Output...");
-  EXPECT_EQ(channel.Commands().SendAllCaption, "&Send All Output to File...");
-  EXPECT_EQ(channel.Commands().CloseOutputCaption, "&Close Output File");
+  EXPECT_EQ(channel.Commands().SendAllCaption, "Send &All Output to File...");
+  EXPECT_EQ(channel.Commands().CloseOutputCaption, "Close &Output File");
   EXPECT_FALSE(channel.Commands().CloseOutputEnabled);
 }
 

@@ -361,7 +361,7 @@ TEST(SessionFile, FailureToOpenIsToldAndNothingIsSent) {
   EXPECT_EQ(platform.Boxes[0].Text, "Can't save the output on the file: " + path +
                                         "\nFile already used ?\nIs it a Read-Only File ?\n"
                                         "Ovelt will not send the output to any file.");
-  EXPECT_EQ(channel.Commands().SendAllCaption, "&Send All Output to File...");
+  EXPECT_EQ(channel.Commands().SendAllCaption, "Send &All Output to File...");
   RunTajima(channel);  // nothing to send to, nothing breaks
   EXPECT_EQ(channel.TextShown, 1);
 }

@@ -13,8 +13,8 @@ MenuModel::MenuModel() {
   add("File", "export_Click", "Save / &Export Data As...");
   add("File", "MenuUpdateNEXUS_Click", "Update NEXUS Data File");
   add("File", "MenuSalvarData_Click", "Options for Saving (&NEXUS Format)...");
-  add("File", "MenuSendAllOutput_Click", "&Send All Output to File...");
-  add("File", "MenuCloseOutput_Click", "&Close Output File");
+  add("File", "MenuSendAllOutput_Click", "Send &All Output to File...");
+  add("File", "MenuCloseOutput_Click", "Close &Output File");
   add("File", "salvar_Click", "&Save Current Output...");
   add("File", "PageSetup_Click", "Pa&ge Setup...");
   add("File", "printout_Click", "&Print Output...");
