@@ -6,11 +6,11 @@
 
 #include <random>
 
-#include "analyses/polymorphism/dna_polymorphism.h"
-#include "analyses/polymorphism/haplotypes.h"
-#include "analyses/polymorphism/pairwise_counts.h"
-#include "analyses/polymorphism/pi_variance.h"
-#include "analyses/polymorphism/sliding_window_pi.h"
+#include "analyses/polymorphism/diversity/dna_polymorphism.h"
+#include "analyses/polymorphism/common/haplotypes.h"
+#include "analyses/polymorphism/common/pairwise_counts.h"
+#include "analyses/polymorphism/common/pi_variance.h"
+#include "analyses/polymorphism/windows/sliding_window_pi.h"
 #include "core/active_data.h"
 #include "core/site_scan.h"
 

@@ -10,7 +10,7 @@
 #include "core/active_data.h"
 #include "formats/writer_lines.h"
 #include "formats/writer_stamp.h"
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 namespace ovelt {
 

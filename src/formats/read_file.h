@@ -13,7 +13,7 @@
 
 #include "core/seq_matrix.h"
 #include "formats/nexus_extras.h"
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 namespace ovelt {
 

@@ -6,7 +6,7 @@
 
 #include "formats/line_reader.h"
 #include "formats/read_file.h"
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 namespace ovelt {
 

@@ -13,7 +13,7 @@
 #include "formats/nexus_document.h"
 #include "formats/writer_lines.h"
 #include "formats/writer_stamp.h"
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 namespace ovelt {
 

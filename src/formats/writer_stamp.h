@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 namespace ovelt {
 

@@ -15,7 +15,7 @@
 #include "output/graph_data.h"
 #include "output/output_grid.h"
 #include "output/session_file.h"
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 namespace ovelt {
 

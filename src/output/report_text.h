@@ -6,7 +6,7 @@
 #include <string>
 
 #include "output/output_grid.h"
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 namespace ovelt {
 

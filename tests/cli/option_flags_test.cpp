@@ -2,7 +2,7 @@
 
 #include "core/command_options.h"
 #include "core/sequence_sets.h"
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
 #include "ui/cli/option_flags.h"

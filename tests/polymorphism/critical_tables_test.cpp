@@ -1,11 +1,11 @@
-#include "analyses/polymorphism/critical_tables.h"
+#include "analyses/polymorphism/neutrality/critical_tables.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <vector>
 
-#include "analyses/polymorphism/critical_row.h"
+#include "analyses/polymorphism/neutrality/critical_row.h"
 
 namespace ovelt {
 namespace {

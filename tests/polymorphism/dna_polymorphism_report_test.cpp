@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/dna_polymorphism_report.h"
+#include "analyses/polymorphism/diversity/dna_polymorphism_report.h"
 
 #include <gtest/gtest.h>
 

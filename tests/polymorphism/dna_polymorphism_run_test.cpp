@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/dna_polymorphism_run.h"
+#include "analyses/polymorphism/diversity/dna_polymorphism_run.h"
 
 #include <gtest/gtest.h>
 

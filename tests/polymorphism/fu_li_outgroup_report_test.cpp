@@ -1,10 +1,10 @@
-#include "analyses/polymorphism/fu_li_outgroup_report.h"
+#include "analyses/polymorphism/neutrality/fu_li_outgroup_report.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "analyses/polymorphism/fu_li_outgroup_test.h"
+#include "analyses/polymorphism/neutrality/fu_li_outgroup_compute.h"
 #include "neutrality_fixture.h"
 
 namespace ovelt {

@@ -1,10 +1,10 @@
-#include "analyses/polymorphism/fu_li_report.h"
+#include "analyses/polymorphism/neutrality/fu_li_report.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "analyses/polymorphism/fu_li_test.h"
+#include "analyses/polymorphism/neutrality/fu_li_compute.h"
 #include "stats/fs_statistic.h"
 #include "neutrality_fixture.h"
 

@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/haplotypes.h"
+#include "analyses/polymorphism/common/haplotypes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/mismatch_distribution.h"
+#include "analyses/polymorphism/size_changes/mismatch_distribution.h"
 
 #include <gtest/gtest.h>
 

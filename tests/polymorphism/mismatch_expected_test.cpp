@@ -1,10 +1,10 @@
-#include "analyses/polymorphism/mismatch_expected.h"
+#include "analyses/polymorphism/size_changes/mismatch_expected.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "analyses/polymorphism/size_change_segregating.h"
+#include "analyses/polymorphism/size_changes/size_change_segregating.h"
 
 namespace ovelt {
 namespace {

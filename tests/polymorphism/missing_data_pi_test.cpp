@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/missing_data_pi.h"
+#include "analyses/polymorphism/diversity/missing_data_pi.h"
 
 #include <gtest/gtest.h>
 

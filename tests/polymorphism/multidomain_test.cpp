@@ -1,6 +1,6 @@
-#include "analyses/polymorphism/domain_definition.h"
-#include "analyses/polymorphism/multidomain_table.h"
-#include "analyses/polymorphism/overview_run.h"
+#include "analyses/polymorphism/overview/domain_definition.h"
+#include "analyses/polymorphism/overview/multidomain_table.h"
+#include "analyses/polymorphism/overview/overview_run.h"
 
 #include <gtest/gtest.h>
 

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
-#include "analyses/polymorphism/fu_li_outgroup_report.h"
-#include "analyses/polymorphism/fu_li_outgroup_run.h"
-#include "analyses/polymorphism/fu_li_report.h"
-#include "analyses/polymorphism/fu_li_run.h"
-#include "analyses/polymorphism/neutrality_window_report.h"
-#include "analyses/polymorphism/tajima_report.h"
-#include "analyses/polymorphism/tajima_run.h"
+#include "analyses/polymorphism/neutrality/fu_li_outgroup_report.h"
+#include "analyses/polymorphism/neutrality/fu_li_outgroup_run.h"
+#include "analyses/polymorphism/neutrality/fu_li_report.h"
+#include "analyses/polymorphism/neutrality/fu_li_run.h"
+#include "analyses/polymorphism/neutrality/neutrality_window_report.h"
+#include "analyses/polymorphism/neutrality/tajima_report.h"
+#include "analyses/polymorphism/neutrality/tajima_run.h"
 #include "core/site_scan.h"
 #include "neutrality_fixture.h"
 #include "output/table_heads.h"

@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/neutrality_significance.h"
+#include "analyses/polymorphism/neutrality/neutrality_significance.h"
 
 #include <gtest/gtest.h>
 

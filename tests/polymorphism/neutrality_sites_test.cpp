@@ -1,11 +1,11 @@
-#include "analyses/polymorphism/neutrality_sites.h"
+#include "analyses/polymorphism/neutrality/neutrality_sites.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
 
-#include "analyses/polymorphism/neutrality_totals.h"
-#include "analyses/polymorphism/poly_stats.h"
+#include "analyses/polymorphism/neutrality/neutrality_totals.h"
+#include "analyses/polymorphism/common/poly_stats.h"
 #include "neutrality_fixture.h"
 
 namespace ovelt {

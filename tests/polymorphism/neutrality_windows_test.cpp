@@ -1,11 +1,11 @@
-#include "analyses/polymorphism/neutrality_windows.h"
+#include "analyses/polymorphism/neutrality/neutrality_windows.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "analyses/polymorphism/neutrality_window_report.h"
-#include "analyses/polymorphism/sliding_window_pi.h"
+#include "analyses/polymorphism/neutrality/neutrality_window_report.h"
+#include "analyses/polymorphism/windows/sliding_window_pi.h"
 #include "stats/fu_li_statistics.h"
 #include "neutrality_fixture.h"
 

@@ -1,10 +1,10 @@
-#include "analyses/polymorphism/overview_stats.h"
+#include "analyses/polymorphism/overview/overview_stats.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "analyses/polymorphism/overview_report.h"
+#include "analyses/polymorphism/overview/overview_report.h"
 #include "core/coding_regions.h"
 #include "output/format_mask.h"
 #include "polymorphism/size_change_fixture.h"

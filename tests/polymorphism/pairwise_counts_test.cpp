@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/pairwise_counts.h"
+#include "analyses/polymorphism/common/pairwise_counts.h"
 
 #include <gtest/gtest.h>
 

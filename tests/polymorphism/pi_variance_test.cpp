@@ -1,12 +1,12 @@
-#include "analyses/polymorphism/pi_variance.h"
+#include "analyses/polymorphism/common/pi_variance.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <random>
 
-#include "analyses/polymorphism/pi_jukes_cantor.h"
-#include "analyses/polymorphism/poly_stats.h"
+#include "analyses/polymorphism/diversity/pi_jukes_cantor.h"
+#include "analyses/polymorphism/common/poly_stats.h"
 #include "core/random_alignment.h"
 #include "poly_fixture.h"
 

@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/poly_stats.h"
+#include "analyses/polymorphism/common/poly_stats.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "analyses/polymorphism/raggedness_statistic.h"
+#include "analyses/polymorphism/size_changes/raggedness_statistic.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "analyses/polymorphism/mismatch_mae.h"
+#include "analyses/polymorphism/size_changes/mismatch_mae.h"
 #include "polymorphism/size_change_fixture.h"
 
 namespace ovelt {

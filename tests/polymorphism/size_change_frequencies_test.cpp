@@ -1,8 +1,8 @@
-#include "analyses/polymorphism/size_change_frequencies.h"
+#include "analyses/polymorphism/size_changes/size_change_frequencies.h"
 
 #include <gtest/gtest.h>
 
-#include "analyses/polymorphism/size_change_segregating.h"
+#include "analyses/polymorphism/size_changes/size_change_segregating.h"
 #include "polymorphism/size_change_fixture.h"
 
 namespace ovelt {

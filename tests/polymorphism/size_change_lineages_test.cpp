@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/size_change_lineages.h"
+#include "analyses/polymorphism/size_changes/size_change_lineages.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "analyses/polymorphism/size_change_moments.h"
+#include "analyses/polymorphism/size_changes/size_change_moments.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "analyses/polymorphism/size_change_k_variance.h"
+#include "analyses/polymorphism/size_changes/size_change_k_variance.h"
 
 namespace ovelt {
 namespace {

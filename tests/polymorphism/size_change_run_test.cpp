@@ -1,10 +1,10 @@
-#include "analyses/polymorphism/size_change_run.h"
+#include "analyses/polymorphism/size_changes/size_change_run.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "analyses/polymorphism/mismatch_expected.h"
+#include "analyses/polymorphism/size_changes/mismatch_expected.h"
 #include "core/report_head.h"
 #include "output/format_mask.h"
 #include "polymorphism/size_change_fixture.h"

@@ -1,10 +1,10 @@
-#include "analyses/polymorphism/size_change_segregating.h"
+#include "analyses/polymorphism/size_changes/size_change_segregating.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "analyses/polymorphism/size_change_lineages.h"
+#include "analyses/polymorphism/size_changes/size_change_lineages.h"
 #include "stats/harmonic.h"
 
 namespace ovelt {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "analyses/polymorphism/sliding_window_gc.h"
+#include "analyses/polymorphism/windows/sliding_window_gc.h"
 #include "poly_fixture.h"
 
 namespace ovelt {

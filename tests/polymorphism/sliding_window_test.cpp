@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/sliding_window.h"
+#include "analyses/polymorphism/windows/sliding_window.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "analyses/polymorphism/tajima_report.h"
+#include "analyses/polymorphism/neutrality/tajima_report.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "analyses/polymorphism/tajima_test.h"
+#include "analyses/polymorphism/neutrality/tajima_compute.h"
 #include "neutrality_fixture.h"
 
 namespace ovelt {

@@ -1,4 +1,4 @@
-#include "analyses/polymorphism/theta_variances.h"
+#include "analyses/polymorphism/diversity/theta_variances.h"
 
 #include <gtest/gtest.h>
 

@@ -12,7 +12,7 @@
 
 #include <functional>
 
-#include "core/pref_editor.h"
+#include "shell/pref_editor.h"
 #include "formats/ovp_file.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"

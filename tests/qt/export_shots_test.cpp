@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "support/scripted_platform.h"
 #include "ui/qt/codon_table_editor.h"
 #include "ui/qt/export_dialog.h"

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "support/scripted_platform.h"
 #include "ui/qt/graph_colours_dialog.h"
 #include "ui/qt/graph_window.h"

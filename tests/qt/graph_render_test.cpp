@@ -9,11 +9,11 @@
 #include <string>
 #include <vector>
 
-#include "analyses/polymorphism/dna_polymorphism_run.h"
-#include "analyses/polymorphism/fu_li_run.h"
-#include "analyses/polymorphism/size_change_run.h"
-#include "analyses/polymorphism/tajima_run.h"
-#include "core/shell/workbench.h"
+#include "analyses/polymorphism/diversity/dna_polymorphism_run.h"
+#include "analyses/polymorphism/neutrality/fu_li_run.h"
+#include "analyses/polymorphism/size_changes/size_change_run.h"
+#include "analyses/polymorphism/neutrality/tajima_run.h"
+#include "shell/workbench.h"
 #include "output/graph_layout.h"
 #include "support/scripted_platform.h"
 #include "ui/qt/graph_painter.h"

@@ -13,10 +13,10 @@
 #include <fstream>
 #include <string>
 
-#include "analyses/polymorphism/dna_polymorphism_run.h"
-#include "analyses/polymorphism/fu_li_run.h"
-#include "analyses/polymorphism/size_change_run.h"
-#include "analyses/polymorphism/tajima_run.h"
+#include "analyses/polymorphism/diversity/dna_polymorphism_run.h"
+#include "analyses/polymorphism/neutrality/fu_li_run.h"
+#include "analyses/polymorphism/size_changes/size_change_run.h"
+#include "analyses/polymorphism/neutrality/tajima_run.h"
 #include "output/graph_layout.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"

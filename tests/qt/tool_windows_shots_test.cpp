@@ -14,7 +14,7 @@
 #include <filesystem>
 #include <string>
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "support/scripted_platform.h"
 #include "ui/qt/calculator_window.h"
 #include "ui/qt/distributions_window.h"

@@ -2,8 +2,8 @@
 
 #include <set>
 
-#include "core/shell/command_table.h"
-#include "core/shell/menu_model.h"
+#include "shell/command_table.h"
+#include "shell/menu_model.h"
 #include "output/analysis_titles.h"
 
 namespace ovelt {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "core/shell/path_display.h"
+#include "shell/path_display.h"
 
 namespace ovelt {
 namespace {

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "core/shell/recent_files.h"
+#include "shell/recent_files.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
 

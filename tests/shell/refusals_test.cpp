@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "core/sequence_sets.h"
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
 

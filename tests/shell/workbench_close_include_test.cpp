@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "core/sequence_sets.h"
-#include "core/shell/data_information.h"
-#include "core/shell/workbench.h"
+#include "shell/data_information.h"
+#include "shell/workbench.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
 

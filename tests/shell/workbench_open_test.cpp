@@ -2,8 +2,8 @@
 
 #include <filesystem>
 
-#include "core/shell/path_display.h"
-#include "core/shell/workbench.h"
+#include "shell/path_display.h"
+#include "shell/workbench.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
 

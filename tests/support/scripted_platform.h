@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 namespace ovelt::testing {
 

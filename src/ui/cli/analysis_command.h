@@ -11,8 +11,8 @@
 #include <ostream>
 #include <string>
 
-#include "core/shell/command_table.h"
-#include "core/shell/workbench.h"
+#include "shell/command_table.h"
+#include "shell/workbench.h"
 #include "output/json_text.h"
 #include "ui/cli/cli_registry.h"
 #include "ui/cli/console_platform.h"

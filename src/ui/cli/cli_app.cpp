@@ -4,7 +4,7 @@
 
 #include <ostream>
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "ui/cli/cli_registry.h"
 #include "ui/cli/coalescent_command.h"
 #include "ui/cli/data_commands.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/shell/command_table.h"
+#include "shell/command_table.h"
 
 namespace ovelt {
 

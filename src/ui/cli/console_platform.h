@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 namespace ovelt {
 

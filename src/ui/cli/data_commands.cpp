@@ -4,9 +4,9 @@
 
 #include <ostream>
 
-#include "core/shell/command_table.h"
-#include "core/shell/data_information.h"
-#include "core/shell/workbench.h"
+#include "shell/command_table.h"
+#include "shell/data_information.h"
+#include "shell/workbench.h"
 #include "ui/cli/cli_registry.h"
 #include "ui/cli/console_platform.h"
 #include "ui/cli/file_job.h"

@@ -12,8 +12,8 @@
 #include "core/sequence_sets.h"
 #include "core/site_scan.h"
 #include "formats/mega_dialog_check.h"
-#include "core/shell/refusals.h"
-#include "core/shell/workbench.h"
+#include "shell/refusals.h"
+#include "shell/workbench.h"
 #include "ui/cli/console_platform.h"
 
 namespace ovelt {

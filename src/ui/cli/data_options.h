@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 namespace CLI {
 class App;

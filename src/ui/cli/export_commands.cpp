@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "formats/data_file_writer.h"
 #include "formats/nexus_writer_options.h"
 #include "formats/update_nexus.h"

@@ -2,7 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "ui/cli/console_platform.h"
 
 namespace ovelt {

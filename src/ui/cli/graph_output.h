@@ -5,7 +5,7 @@
 #include <string>
 
 #include "output/output_channel.h"
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 namespace ovelt {
 

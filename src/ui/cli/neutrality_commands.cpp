@@ -1,8 +1,8 @@
 #include "ui/cli/neutrality_commands.h"
 
-#include "analyses/polymorphism/fu_li_outgroup_run.h"
-#include "analyses/polymorphism/fu_li_run.h"
-#include "analyses/polymorphism/tajima_run.h"
+#include "analyses/polymorphism/neutrality/fu_li_outgroup_run.h"
+#include "analyses/polymorphism/neutrality/fu_li_run.h"
+#include "analyses/polymorphism/neutrality/tajima_run.h"
 #include "ui/cli/analysis_command.h"
 
 namespace ovelt {

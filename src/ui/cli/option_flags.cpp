@@ -1,6 +1,6 @@
 #include "ui/cli/option_flags.h"
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 
 namespace ovelt {
 

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <ostream>
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "ui/cli/console_platform.h"
 #include "ui/cli/graph_output.h"
 

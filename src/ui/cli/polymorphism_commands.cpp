@@ -1,6 +1,6 @@
 #include "ui/cli/polymorphism_commands.h"
 
-#include "analyses/polymorphism/dna_polymorphism_run.h"
+#include "analyses/polymorphism/diversity/dna_polymorphism_run.h"
 #include "ui/cli/analysis_command.h"
 
 namespace ovelt {

@@ -6,7 +6,7 @@
 
 #include "core/region_check.h"
 #include "core/site_scan.h"
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "output/format_mask.h"
 
 namespace ovelt {

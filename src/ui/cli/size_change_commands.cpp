@@ -1,9 +1,9 @@
 #include "ui/cli/size_change_commands.h"
 
-#include "analyses/polymorphism/overview_json.h"
-#include "analyses/polymorphism/overview_run.h"
-#include "analyses/polymorphism/size_change_json.h"
-#include "analyses/polymorphism/size_change_run.h"
+#include "analyses/polymorphism/overview/overview_json.h"
+#include "analyses/polymorphism/overview/overview_run.h"
+#include "analyses/polymorphism/size_changes/size_change_json.h"
+#include "analyses/polymorphism/size_changes/size_change_run.h"
 #include "ui/cli/analysis_command.h"
 
 namespace ovelt {

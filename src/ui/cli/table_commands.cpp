@@ -5,8 +5,8 @@
 #include <ostream>
 
 #include "core/genetic_code.h"
-#include "core/shell/command_table.h"
-#include "core/shell/workbench.h"
+#include "shell/command_table.h"
+#include "shell/workbench.h"
 #include "ui/cli/cli_registry.h"
 #include "ui/cli/command_listing.h"
 #include "ui/cli/console_platform.h"

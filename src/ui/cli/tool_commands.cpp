@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "core/shell/command_table.h"
-#include "core/shell/workbench.h"
+#include "shell/command_table.h"
+#include "shell/workbench.h"
 #include "output/json_text.h"
 #include "stats/fs_statistic.h"
 #include "tools/calculator.h"

@@ -1,12 +1,12 @@
 #include "ui/qt/analysis_dialogs.h"
 
-#include "analyses/polymorphism/dna_polymorphism_run.h"
-#include "analyses/polymorphism/fu_li_outgroup_run.h"
-#include "analyses/polymorphism/fu_li_run.h"
-#include "analyses/polymorphism/overview_run.h"
-#include "analyses/polymorphism/size_change_run.h"
-#include "analyses/polymorphism/tajima_run.h"
-#include "core/shell/command_table.h"
+#include "analyses/polymorphism/diversity/dna_polymorphism_run.h"
+#include "analyses/polymorphism/neutrality/fu_li_outgroup_run.h"
+#include "analyses/polymorphism/neutrality/fu_li_run.h"
+#include "analyses/polymorphism/overview/overview_run.h"
+#include "analyses/polymorphism/size_changes/size_change_run.h"
+#include "analyses/polymorphism/neutrality/tajima_run.h"
+#include "shell/command_table.h"
 #include "ui/qt/main_window.h"
 
 namespace ovelt {

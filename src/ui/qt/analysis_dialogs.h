@@ -6,8 +6,8 @@
 #include <functional>
 #include <string>
 
-#include "core/shell/command_table.h"
-#include "core/shell/workbench.h"
+#include "shell/command_table.h"
+#include "shell/workbench.h"
 #include "ui/qt/option_dialog.h"
 
 namespace ovelt {

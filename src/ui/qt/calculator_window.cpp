@@ -7,7 +7,7 @@
 #include <QLocale>
 #include <QPushButton>
 
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 namespace ovelt {
 

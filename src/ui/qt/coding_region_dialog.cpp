@@ -12,7 +12,7 @@
 
 #include <stdexcept>
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 
 namespace ovelt {
 

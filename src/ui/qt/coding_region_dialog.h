@@ -6,7 +6,7 @@
 
 #include <QDialog>
 
-#include "core/coding_region_dialog_logic.h"
+#include "shell/coding_region_dialog_logic.h"
 
 class QLineEdit;
 class QPushButton;

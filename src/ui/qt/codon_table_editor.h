@@ -12,8 +12,8 @@
 #include <string>
 
 #include "core/active_data.h"
-#include "core/pref_editor.h"
-#include "ui/platform.h"
+#include "shell/pref_editor.h"
+#include "platform/platform.h"
 
 class QComboBox;
 class QLabel;

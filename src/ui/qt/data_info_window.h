@@ -5,7 +5,7 @@
 
 #include <functional>
 
-#include "core/shell/data_information.h"
+#include "shell/data_information.h"
 
 class QTableWidget;
 

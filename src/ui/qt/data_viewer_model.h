@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "core/active_data.h"
-#include "core/viewer_cell.h"
-#include "core/viewer_site_table.h"
+#include "shell/viewer_cell.h"
+#include "shell/viewer_site_table.h"
 
 namespace ovelt {
 

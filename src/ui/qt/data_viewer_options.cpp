@@ -4,7 +4,7 @@
 #include <QDialogButtonBox>
 #include <QVBoxLayout>
 
-#include "core/viewer_texts.h"
+#include "shell/viewer_texts.h"
 
 namespace ovelt {
 

@@ -4,7 +4,7 @@
 
 #include <QDialog>
 
-#include "core/viewer_cell.h"
+#include "shell/viewer_cell.h"
 
 class QCheckBox;
 

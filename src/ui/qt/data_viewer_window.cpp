@@ -8,7 +8,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include "core/viewer_texts.h"
+#include "shell/viewer_texts.h"
 #include "ui/qt/viewer_cell_delegate.h"
 
 namespace ovelt {

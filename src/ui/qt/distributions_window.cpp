@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "tools/distribution_run.h"
 #include "tools/ewens_fs_source.h"
 

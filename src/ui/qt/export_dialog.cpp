@@ -5,7 +5,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "formats/data_file_writer.h"
 #include "formats/update_nexus.h"
 #include "ui/qt/codon_table_editor.h"

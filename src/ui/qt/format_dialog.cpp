@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 #include "core/genetic_code.h"
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 
 namespace ovelt {
 

@@ -6,7 +6,7 @@
 
 #include <QDialog>
 
-#include "core/format_dialog_logic.h"
+#include "shell/format_dialog_logic.h"
 
 class QRadioButton;
 

@@ -9,8 +9,8 @@
 #include <QVBoxLayout>
 
 #include "core/genetic_code_choice.h"
-#include "core/genetic_code_dialog_logic.h"
-#include "core/shell/workbench.h"
+#include "shell/genetic_code_dialog_logic.h"
+#include "shell/workbench.h"
 
 namespace ovelt {
 

@@ -7,7 +7,7 @@
 #include <QImage>
 #include <QWidget>
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "output/graph_data.h"
 #include "output/graph_picture.h"
 #include "ui/qt/graph_painter.h"

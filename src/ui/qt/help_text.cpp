@@ -1,6 +1,6 @@
 #include "ui/qt/help_text.h"
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 
 namespace ovelt {
 

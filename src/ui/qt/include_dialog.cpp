@@ -12,7 +12,7 @@
 #include <QVBoxLayout>
 
 #include "core/gap_settings.h"
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 
 namespace ovelt {
 

@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "tools/independence_margins.h"
 #include "tools/independence_run.h"
 

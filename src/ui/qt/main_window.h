@@ -10,7 +10,7 @@
 #include <memory>
 #include <string>
 
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 
 class QAction;
 class QLabel;

@@ -3,7 +3,7 @@
 
 #include <QDialog>
 
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 class QLineEdit;
 class QRadioButton;

@@ -7,7 +7,7 @@
 
 #include "core/active_data.h"
 #include "formats/nexus_writer_options.h"
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 class QCheckBox;
 class QLineEdit;

@@ -4,7 +4,7 @@
 
 #include <QPointer>
 
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 class QLabel;
 class QProgressBar;

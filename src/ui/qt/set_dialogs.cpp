@@ -12,7 +12,7 @@
 #include <QVBoxLayout>
 
 #include "core/set_name.h"
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 
 namespace ovelt {
 

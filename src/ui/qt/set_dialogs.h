@@ -11,7 +11,7 @@
 #include <optional>
 #include <string>
 
-#include "core/set_dialog_logic.h"
+#include "shell/set_dialog_logic.h"
 
 class QComboBox;
 class QLabel;

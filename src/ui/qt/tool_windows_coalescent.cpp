@@ -22,7 +22,7 @@
 #include "coalescent/coalescent_run.h"
 #include "coalescent/simulation_report.h"
 #include "coalescent/statistic_code.h"
-#include "core/shell/workbench.h"
+#include "shell/workbench.h"
 #include "output/format_mask.h"
 #include "tools/simulation_captions.h"
 

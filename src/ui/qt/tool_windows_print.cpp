@@ -9,7 +9,7 @@
 #include <QPrinter>
 #include <QStringList>
 
-#include "ui/platform.h"
+#include "platform/platform.h"
 
 namespace ovelt {
 namespace {

@@ -1,0 +1,68 @@
+#pragma once
+// DNA Polymorphism: the intraspecific summary of one selection over one region. Normal mode:
+// segregating sites, mutations, haplotypes and haplotype diversity, nucleotide diversity Pi and,
+// on request, its sampling variance and Pi(JC); then the thetas and the variances of k and theta
+// (skipped when the region has no net site), or Pi, Theta and S along a sliding window.
+// Missing-data mode: Pi with pairwise deletion of gaps and missing data.
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#include "analyses/polymorphism/diversity/dna_polymorphism_options.h"
+#include "analyses/polymorphism/common/haplotypes.h"
+#include "analyses/polymorphism/diversity/missing_data_pi.h"
+#include "analyses/polymorphism/common/pi_variance.h"
+#include "analyses/polymorphism/common/poly_gauge.h"
+#include "analyses/polymorphism/common/poly_stats.h"
+#include "analyses/polymorphism/windows/sliding_window_pi.h"
+#include "analyses/polymorphism/diversity/theta_variances.h"
+#include "core/active_data.h"
+
+namespace ovelt {
+
+inline const char* const kHaplotypeFailure = "Error computing the Haplotype Diversity";
+
+struct DnaPolResult {
+  int32_t RegionFrom = 0;
+  int32_t RegionTo = 0;
+  int32_t Sequences = 0;  // n
+  bool MissingData = false;
+  // Normal mode.
+  PolyStats Stats;
+  HaplotypeStats Haplotypes;
+  std::optional<PiSamplingVariance> SamplingVariance;
+  std::optional<double> PiJC;
+  std::optional<ThetaVariances> Variances;
+  std::optional<PiThetaWindows> Windows;
+  // Missing-data mode.
+  std::optional<PairwiseDeletion> Deletion;
+};
+
+// A computation that could not finish: `what()` is the message the user is shown.
+class PolyFailure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+// A fault in the loop over the windows (the output would be too big).
+class WindowFailure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// What the run shows while it computes: the status words of each step and the gauge.
+struct PolyProgress {
+  std::function<void(const std::string&)> Status;
+  PolyGauge Gauge;
+};
+
+// The statistics of the options over the first selection (already filled, at least two
+// sequences) and the region from..to. Throws PolyFailure with the step's message.
+[[nodiscard]] DnaPolResult ComputeDnaPolymorphism(const ActiveData& ad, int32_t from, int32_t to,
+                                                  const DnaPolOptions& options,
+                                                  const SlidingWindowSpec& window,
+                                                  const PolyProgress& progress = {});
+
+}  // namespace ovelt

@@ -1,0 +1,29 @@
+#include "analyses/polymorphism/diversity/pi_jukes_cantor.h"
+
+#include <cmath>
+
+namespace ovelt {
+
+double PiJukesCantor(const PairCounts& d, int32_t net_sites, const PolyGauge& gauge) {
+  const int32_t n = d.n();
+  double sum = 0.0;
+  int64_t usable = 0;
+  for (int32_t i = 1; i < n; ++i) {
+    for (int32_t j = i + 1; j <= n; ++j) {
+      const double x = 4.0 * static_cast<double>(d.at(i, j)) / (3.0 * net_sites);
+      if (x < 1.0) {
+        sum += -0.75 * std::log(1.0 - x);
+        ++usable;
+      }
+    }
+    RaiseTo(gauge, static_cast<int>(static_cast<double>(i) / (n - 1) * 100.0));
+  }
+  return usable == 0 ? 0.0 : sum / static_cast<double>(usable);
+}
+
+double PiJukesCantor(const ActiveData& ad, int32_t from, int32_t to, int32_t net_sites,
+                     const PolyGauge& gauge) {
+  return PiJukesCantor(PairwiseDifferences(ad, from, to), net_sites, gauge);
+}
+
+}  // namespace ovelt

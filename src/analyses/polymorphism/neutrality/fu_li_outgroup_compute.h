@@ -1,0 +1,52 @@
+#pragma once
+// Fu and Li's tests with an outgroup (Fu and Li 1993) and Fay and Wu's H (Fay and Wu 2000): the
+// first selection is the intraspecific data, the second the outgroup whose nucleotide is taken as
+// the ancestral state. Counts over the used sites (see neutrality_sites.h): S, Eta, the mutations
+// on external branches Eta(e) and the singletons Eta(s), k and Pi, the estimates of theta, D, F
+// and H; along a sliding window on request. With Eta of 0, D and F are not determined (NaN).
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "analyses/polymorphism/neutrality/neutrality_totals.h"
+#include "analyses/polymorphism/neutrality/neutrality_windows.h"
+#include "analyses/polymorphism/common/poly_gauge.h"
+#include "analyses/polymorphism/windows/sliding_window.h"
+#include "core/active_data.h"
+#include "stats/fay_wu_h.h"
+#include "stats/fu_li_statistics.h"
+
+namespace ovelt {
+
+struct FuLiOutgroupResult {
+  int32_t RegionFrom = 0;
+  int32_t RegionTo = 0;
+  int32_t Sequences = 0;  // n, the intraspecific data
+  int32_t OutgroupSequences = 0;
+  bool UseMutations = false;
+  NeutralityTotals Totals;  // L, S, total mutations, Eta, EtaE, EtaS, k, S(i)
+  double Pi = 0.0;          // k / L
+  std::vector<int32_t> AmbiguousSites;
+  double ThetaK = 0.0;     // k
+  double ThetaEtaE = 0.0;  // Eta(e)
+  double ThetaEta = 0.0;   // Eta / a1
+  FuLiCoefficients Coefficients;
+  bool Determined = false;  // Eta above 0
+  double D = 0.0;
+  double F = 0.0;
+  FayWuResult FayWu;
+  std::optional<FuLiOutgroupWindows> Windows;
+};
+
+// Over from..to of the first selection (classes and diversities filled, three or more
+// sequences) against the second (one or more). `status` (optional) is told the status words of
+// the steps. Throws NeutralityFailure with the test's message on a fault.
+[[nodiscard]] FuLiOutgroupResult ComputeFuLiOutgroupTest(
+    const ActiveData& ad, int32_t from, int32_t to, bool use_mutations,
+    const std::optional<SlidingWindowSpec>& window, const PolyGauge& gauge = {},
+    const std::function<void(const std::string&)>& status = {});
+
+}  // namespace ovelt

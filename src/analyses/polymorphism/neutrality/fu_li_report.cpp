@@ -1,0 +1,82 @@
+#include "analyses/polymorphism/neutrality/fu_li_report.h"
+
+#include "analyses/polymorphism/neutrality/neutrality_failure.h"
+#include "analyses/polymorphism/neutrality/neutrality_significance.h"
+#include "analyses/polymorphism/neutrality/neutrality_window_report.h"
+#include "analyses/polymorphism/neutrality/tajima_report.h"
+#include "output/format_mask.h"
+#include "stats/significance_words.h"
+
+namespace ovelt {
+namespace {
+
+constexpr const char* kEnd = "\r\n";
+
+std::string Line(const std::string& label, const std::string& value) {
+  return label + value + kEnd;
+}
+
+std::string Words(double value, FuLiTable table, int32_t n) {
+  return SignificanceWords(SignificanceFuLi(value, table, n), MarkFamily::kFuLi);
+}
+
+bool AnyNotDetermined(const FuLiWindows& windows) {
+  for (const FuLiWindow& row : windows.Rows) {
+    if (!row.Determined ||
+        SignificanceFuLi(row.DStar, FuLiTable::kDStar, windows.Sequences) == "n.d.")
+      return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+std::string FsLines(const FsResult& fs, int32_t haplotypes) {
+  std::string t;
+  t += Line(" Fu's Fs statistic: ", Format(fs.Fs, "0.000"));
+  t += Line(" Strobeck's S statistic: ", Format(fs.StrobeckS, "0.000"));
+  t += Line("    (Probability that NHap <= " + StrNum(haplotypes), ")");
+  t += Line(" Probability that [NHap = " + StrNum(haplotypes) + "]: ", Format(fs.PEqual, "0.000"));
+  return t;
+}
+
+std::string FuLiReportBody(const FuLiTestResult& r) {
+  const NeutralityTotals& c = r.Totals;
+  if (c.SegSites == 0) return std::string(kNoPolymorphismsLine) + kEnd;
+  const int32_t n = r.Sequences;
+  std::string t;
+  t += Line(" Number of polymorphic (segregating) sites, S: ", StrNum(c.SegSites));
+  t += Line(" Total number of mutations, Eta: ", Format(c.TotalMutations, "0"));
+  t += Line(r.UseMutations ? " Total number of singleton mutations, Eta(s): "
+                           : " Total number of singleton segregating sites, Eta(s): ",
+            StrNum(c.EtaS));
+  t += kEnd;
+  t += Line(" Average number of pairwise nucleotide differences, k: ", Format(c.K, "0.000"));
+  t += Line(" Nucleotide diversity, Pi: ", Format(r.Pi, "0.00000"));
+  t += kEnd;
+  t += Line(" Theta estimated from k: ", Format(r.ThetaK, "0.000"));
+  t += Line(" Theta estimated from Eta(s): ", Format(r.ThetaEtaS, "0.000"));
+  t += Line(r.UseMutations ? " Theta estimated from Eta: " : " Theta estimated from S: ",
+            Format(r.ThetaEta, "0.000"));
+  t += kEnd;
+  t += Line(" Fu and Li's D* test statistic: ", Format(r.DStar, "0.00000"));
+  t += Line("     Statistical significance: ", Words(r.DStar, FuLiTable::kDStar, n));
+  t += Line(" Fu and Li's F* test statistic: ", Format(r.FStar, "0.00000"));
+  t += Line("     Statistical significance: ", Words(r.FStar, FuLiTable::kFStar, n));
+  t += kEnd;
+  t += CalculationLine(r.UseMutations) + kEnd;
+  if (r.Haplotypes) {
+    t += Line(" Number of Haplotypes, h: ", StrNum(r.Haplotypes->Haplotypes));
+    t += Line(" Haplotype (gene) diversity, Hd: ", Format(r.Haplotypes->Hd, "0.000"));
+    t += Line("    Variance of Haplotype diversity: ", Format(r.Haplotypes->VarHd, "0.00000"));
+    t += kEnd;
+    if (r.Fs) t += FsLines(*r.Fs, r.Haplotypes->Haplotypes);
+  }
+  if (r.Windows) {
+    t += SlidingBlock(r.Windows->Geometry);
+    t += FuLiWindowLegend(AnyNotDetermined(*r.Windows)) + kEnd;
+  }
+  return t;
+}
+
+}  // namespace ovelt

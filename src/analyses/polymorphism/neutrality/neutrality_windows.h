@@ -1,0 +1,70 @@
+#pragma once
+// The neutrality statistics along a sliding window: Tajima's D, Fu and Li's D* and F*, and with an
+// outgroup Fu and Li's D and F with Fay and Wu's H, each from the counts of the window's sites
+// with the sample size of the whole run. A window without segregating sites (mutations) has no
+// test statistic (`Determined` false); its H is 0.
+
+#include <cstdint>
+#include <vector>
+
+#include "analyses/polymorphism/neutrality/neutrality_sites.h"
+#include "analyses/polymorphism/common/poly_gauge.h"
+#include "analyses/polymorphism/windows/sliding_window.h"
+#include "stats/fay_wu_h.h"
+
+namespace ovelt {
+
+struct TajimaWindow {
+  WindowBounds Window;
+  int32_t SegSites = 0;  // S, or Eta when counting mutations
+  double K = 0.0;
+  bool Determined = false;
+  double D = 0.0;
+};
+
+struct FuLiWindow {
+  WindowBounds Window;
+  int32_t Eta = 0;
+  int32_t EtaS = 0;
+  double K = 0.0;
+  bool Determined = false;
+  double DStar = 0.0;
+  double FStar = 0.0;
+};
+
+struct FuLiOutgroupWindow {
+  WindowBounds Window;
+  int32_t Eta = 0;
+  int32_t EtaE = 0;
+  double K = 0.0;
+  bool Determined = false;
+  double D = 0.0;
+  double F = 0.0;
+  FayWuResult FayWu;
+};
+
+template <class Row>
+struct WindowRows {
+  SlidingWindowSpec Geometry;
+  int32_t Capacity = 0;   // R, the most windows the region could hold
+  int32_t Sequences = 0;  // n of the significance marks
+  std::vector<Row> Rows;
+};
+
+using TajimaWindows = WindowRows<TajimaWindow>;
+using FuLiWindows = WindowRows<FuLiWindow>;
+using FuLiOutgroupWindows = WindowRows<FuLiOutgroupWindow>;
+
+// Over the tallied region (from..to of `tallies`) for n sequences. The gauge rises with row / R.
+[[nodiscard]] TajimaWindows ComputeTajimaWindows(const SiteTallies& tallies,
+                                                 const SlidingWindowSpec& geometry, int32_t n,
+                                                 bool use_mutations, const PolyGauge& gauge = {});
+[[nodiscard]] FuLiWindows ComputeFuLiWindows(const SiteTallies& tallies,
+                                             const SlidingWindowSpec& geometry, int32_t n,
+                                             bool use_mutations, const PolyGauge& gauge = {});
+[[nodiscard]] FuLiOutgroupWindows ComputeFuLiOutgroupWindows(const SiteTallies& tallies,
+                                                             const SlidingWindowSpec& geometry,
+                                                             int32_t n, bool use_mutations,
+                                                             const PolyGauge& gauge = {});
+
+}  // namespace ovelt

@@ -1,0 +1,81 @@
+#include "analyses/polymorphism/overview/multidomain_table.h"
+
+#include "output/format_mask.h"
+
+namespace ovelt {
+
+namespace {
+
+std::string GcCell(const GcShare& share) {
+  return share.Applicable ? Format(share.Content, "0.000") : "   n.a.";
+}
+
+std::string MarkCell(const NeutralityValue& v) { return v.Determined ? v.Mark : "n.d."; }
+
+}  // namespace
+
+const std::vector<std::string>& MultiDomainLongHeads() {
+  static const std::vector<std::string> heads = {
+      "DataFile",      "Population",      "Domain",     "SitesRegion", "SampleSize",
+      "Sites",         "NetSites",        "S_SegSites", "Eta_NumMuts", "h_NumHaps",
+      "Hd_HapDiversity", "Var_Hd",        "Pi_NucDiversity", "Var_Pi", "ThetaNuc",
+      "Theta_PG",      "k_NucDiffs",      "Syn_Muts",   "NoSyn_Muts",  "D_Tajima",
+      "D_Signif",      "D*_FuLi",         "D*_Signif",  "F*_FuLi",     "F*_Signif",
+      "Fs_Fu",         "G+C_NonCoding",   "G+C_Coding", "G+C_Total"};
+  return heads;
+}
+
+const std::vector<std::string>& MultiDomainShortHeads() {
+  static const std::vector<std::string> heads = {
+      "DataFile", "Population", "Region", "SitesRegion", "n",        "Sites",   "NetSites",
+      "S",        "Eta",        "Hap",    "Hd",          "VarHd",    "Pi",      "VarPi",
+      "Theta",    "ThetaG",     "AvNumDif", "SilMuts",   "NoSynMut", "TajimaD", "SigD",
+      "FuLiD*",   "SigD*",      "FuLiF*", "SigF",        "FuFs",     "G+Cn",    "G+Cc",
+      "G+C"};
+  return heads;
+}
+
+std::string TestCell(const NeutralityValue& v) {
+  if (!v.Determined) return "   n.d.";
+  std::string cell = v.Value >= 0.0 ? " " : "";
+  cell += Format(v.Value, "0.0000");
+  return cell;
+}
+
+std::vector<std::string> MultiDomainCells(const MultiDomainRow& row) {
+  const OverviewStats& o = row.Stats;
+  const bool coding = o.Changes.Applicable;
+  return {
+      Format(row.DataFile, "!@@@@@@@@@@@@@@@"),
+      Format(row.Population, "!@@@@@@@@@@@@@@@"),
+      Format(row.Region, "@@@@@@@@@@@@@"),
+      Format(row.SitesRegion, "@@@@@"),
+      Format(o.SampleSize, "@@@@@"),
+      Format(o.Sites, "@@@@@@@"),
+      Format(o.NetSites, "@@@@@@@"),
+      Format(o.SegSites, "@@@@@"),
+      Format(o.Mutations, "@@@@@"),
+      Format(o.Haplotypes, "@@@@@"),
+      o.HaplotypesDetermined ? Format(o.Hd, "0.000") : "n.d.",
+      o.HaplotypesDetermined ? Format(o.VarHd, "0.00000") : "n.d.",
+      Format(o.Pi, "0.00000"),
+      o.VarPiDetermined ? Format(o.VarPi, "0.00000") : "n.d.",
+      Format(o.ThetaPerSite, "0.00000"),
+      Format(o.ThetaPerSequence, "0.00000"),
+      Format(o.K, "0.000"),
+      coding ? Format(o.Changes.Synonymous, "@@@@@") : "n.a.",
+      coding ? Format(o.Changes.Nonsynonymous, "@@@@@") : "n.a.",
+      TestCell(o.TajimaD),
+      MarkCell(o.TajimaD),
+      TestCell(o.FuLiDStar),
+      MarkCell(o.FuLiDStar),
+      TestCell(o.FuLiFStar),
+      MarkCell(o.FuLiFStar),
+      o.FsDetermined ? Format(o.Fs, "0.000") : "n.d.",
+      GcCell(o.Gc.NonCoding),
+      GcCell(o.Gc.Coding),
+      GcCell(o.Gc.Total),
+  };
+}
+
+}  // namespace ovelt

@@ -1,0 +1,111 @@
+#include "analyses/polymorphism/overview/overview_stats.h"
+
+#include <cmath>
+
+#include "analyses/polymorphism/common/haplotypes.h"
+#include "analyses/polymorphism/neutrality/neutrality_significance.h"
+#include "analyses/polymorphism/neutrality/neutrality_totals.h"
+#include "analyses/polymorphism/common/pairwise_counts.h"
+#include "analyses/polymorphism/common/pi_variance.h"
+#include "analyses/polymorphism/common/poly_stats.h"
+#include "stats/fs_statistic.h"
+#include "stats/fu_li_statistics.h"
+#include "stats/harmonic.h"
+#include "stats/tajima_d.h"
+
+namespace ovelt {
+
+namespace {
+
+constexpr int32_t kTestMinimum = 4;
+
+NeutralityValue Tested(double value, std::string mark) {
+  NeutralityValue v;
+  v.Determined = std::isfinite(value);
+  v.Value = v.Determined ? value : 0.0;
+  v.Mark = v.Determined ? std::move(mark) : "n.d.";
+  return v;
+}
+
+void ComputeTests(OverviewStats& o, const ActiveData& ad, int32_t from, int32_t to) {
+  const int32_t n = o.SampleSize;
+  const NeutralityTotals totals =
+      SumTallies(TallySites(ad, from, to), from, to, o.UseMutations, n);
+  const TajimaCoefficients t = TajimaCoefficientsFor(n);
+  // The test takes Eta in place of S when mutations are counted.
+  const double d = TajimaD(totals.K, totals.Eta, t.a1, t.e1, t.e2);
+  o.TajimaD = Tested(d, SignificanceTajima(d, n));
+  const FuLiCoefficients f = FuLiStarCoefficients(n);
+  const double d_star = FuLiDStarValue(totals.Eta, totals.EtaS, f.a1, f.uD, f.vD, n);
+  const double f_star = FuLiFStarValue(totals.K, totals.Eta, totals.EtaS, f.uF, f.vF, n);
+  o.FuLiDStar = Tested(d_star, SignificanceFuLi(d_star, FuLiTable::kDStar, n));
+  o.FuLiFStar = Tested(f_star, SignificanceFuLi(f_star, FuLiTable::kFStar, n));
+}
+
+}  // namespace
+
+OverviewStats ComputeOverview(const ActiveData& ad, int32_t from, int32_t to, bool use_mutations,
+                              const PolyGauge& gauge) {
+  OverviewStats o;
+  o.UseMutations = use_mutations;
+  const int32_t n = ad.SelOutCount;
+  o.SampleSize = n;
+  o.Sites = to - from + 1;
+  const PolyStats stats = ComputePolyStats(ad, from, to);
+  o.NetSites = stats.NetSites;
+  o.SegSites = stats.SegSites;
+  o.Mutations = static_cast<int32_t>(stats.Mutations);
+  o.Pi = stats.PiValue;
+  o.K = stats.AvgDiffs;
+  o.Gc = ComputeGcContent(ad, from, to);
+  o.Changes = CountCodonChanges(ad, from, to);
+
+  if (n >= 2 && o.Sites <= 0) {
+    // No site: every sequence is the same haplotype.
+    o.HaplotypesDetermined = true;
+    o.Haplotypes = 1;
+  } else if (n >= 2) {
+    const HaplotypeStats h = ComputeHaplotypes(ad, from, to, [&gauge](int percent) {
+      RaiseTo(gauge, percent / 4);
+    });
+    o.HaplotypesDetermined = true;
+    o.Haplotypes = h.Haplotypes;
+    o.Hd = h.Hd;
+    o.VarHd = h.VarHd;
+  } else if (n == 1) {
+    o.Haplotypes = 1;
+  }
+  if (n >= 2 && o.NetSites > 0) {
+    const PairCounts d = PairwiseDifferences(ad, from, to, [&gauge](int percent) {
+      RaiseTo(gauge, 25 + percent / 4);
+    });
+    const PiSamplingVariance v = SamplingVarianceOfPi(d, o.NetSites);
+    o.VarPiDetermined = true;
+    o.VarPi = v.Variance;
+  }
+  RaiseTo(gauge, 60);
+
+  const double a1 = HarmonicA1Double(n);
+  const double counted = use_mutations ? o.Mutations : o.SegSites;
+  if (a1 > 0.0) {
+    o.ThetaPerSequence = counted / a1;
+    o.ThetaPerSite = o.NetSites > 0 ? o.ThetaPerSequence / o.NetSites : 0.0;
+  }
+
+  o.TestsComputed = n >= kTestMinimum;
+  // Without a segregating site the tests have no variance: they stay not determined.
+  if (o.TestsComputed && o.SegSites > 0) ComputeTests(o, ad, from, to);
+  RaiseTo(gauge, 80);
+
+  if (o.K > 0.0 && o.HaplotypesDetermined) {
+    const FsResult fs = FsStatistic(n, o.Haplotypes, o.K);
+    o.FsDetermined = true;
+    o.Fs = fs.Fs;
+    o.StrobeckS = fs.StrobeckS;
+    o.PEqual = fs.PEqual;
+  }
+  RaiseTo(gauge, 100);
+  return o;
+}
+
+}  // namespace ovelt

@@ -1,0 +1,66 @@
+#include "analyses/polymorphism/windows/sliding_window_pi.h"
+
+#include "output/format_mask.h"
+#include "stats/harmonic.h"
+
+namespace ovelt {
+
+PiThetaWindows ComputePiThetaWindows(const ActiveData& ad, int32_t from, int32_t to,
+                                     const SlidingWindowSpec& geometry, const PolyGauge& gauge) {
+  PiThetaWindows result;
+  result.Geometry = geometry;
+  result.Capacity = WindowCapacity(from, to, geometry.StepSize);
+  const double a1 = HarmonicA1Double(ad.SelOutCount);
+  const std::vector<WindowBounds> windows = SlideWindows(ad.SelSiteClass1, from, to, geometry);
+  result.Rows.reserve(windows.size());
+  int32_t row = 0;
+  for (const WindowBounds& w : windows) {
+    PiThetaWindow out;
+    out.Window = w;
+    double k = 0.0;
+    for (int32_t site = w.Start; site <= w.End; ++site) {
+      const auto s = static_cast<size_t>(site);
+      if (ad.SelSiteClass1[s] == kGapOrMissing) continue;
+      k += ad.SelSiteDiversity1[s];
+      if (ad.SelSiteDiversity1[s] > 0.0) ++out.SegSites;
+    }
+    if (w.NetSites != 0) {
+      out.Pi = k / w.NetSites;
+      out.Theta = out.SegSites / (w.NetSites * a1);
+    }
+    result.Rows.push_back(out);
+    ++row;
+    RaiseTo(gauge, static_cast<int>(static_cast<double>(row) / result.Capacity * 100.0));
+  }
+  return result;
+}
+
+std::vector<std::string> PiThetaGridTitles() { return {"Window", "Midpoint", "Pi", "Theta", "S"}; }
+
+std::string WindowCell(const WindowBounds& window) {
+  return Format(std::to_string(window.Start) + "-" + std::to_string(window.End), "@@@@@@@@@@@");
+}
+
+std::vector<std::string> PiThetaGridRow(const PiThetaWindow& row) {
+  return {WindowCell(row.Window), Format(row.Window.Midpoint, "@@@@@"), Format(row.Pi, "0.00000"),
+          Format(row.Theta, "0.00000"), Format(row.SegSites, "@@@@")};
+}
+
+GraphData PiThetaGraph(const PiThetaWindows& windows) {
+  GraphData graph;
+  graph.GraphKind = kGraphPolymorphism;
+  graph.Table = WindowTable(windows.Capacity, 5);
+  int32_t row = 0;
+  for (const PiThetaWindow& w : windows.Rows) {
+    ++row;
+    graph.Table.at(row, 1) = static_cast<float>(w.Window.Midpoint);
+    graph.Table.at(row, 2) = static_cast<float>(w.Pi);
+    graph.Table.at(row, 3) = static_cast<float>(w.Theta);
+    graph.Table.at(row, 4) = static_cast<float>(w.SegSites);
+  }
+  graph.Table.RowsUsed = row;
+  graph.GraphRows = row;
+  return graph;
+}
+
+}  // namespace ovelt

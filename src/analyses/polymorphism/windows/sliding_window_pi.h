@@ -1,0 +1,46 @@
+#pragma once
+// Nucleotide diversity Pi, Watterson's theta and the segregating sites S along a sliding window
+// (the window driver of the DNA polymorphism analysis). In each window k is the sum of the
+// per-site gene diversities of its net sites and S the number of those above 0; Pi = k / net
+// sites and Theta = S / (net sites a1) (Nei 1987, Watterson 1975). A window without net sites
+// has Pi and Theta 0.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "analyses/polymorphism/common/poly_gauge.h"
+#include "analyses/polymorphism/windows/sliding_window.h"
+#include "output/graph_data.h"
+#include "core/active_data.h"
+
+namespace ovelt {
+
+struct PiThetaWindow {
+  WindowBounds Window;
+  double Pi = 0.0;
+  double Theta = 0.0;
+  int32_t SegSites = 0;
+};
+
+struct PiThetaWindows {
+  SlidingWindowSpec Geometry;
+  int32_t Capacity = 0;  // R, the most windows the region could hold
+  std::vector<PiThetaWindow> Rows;
+};
+
+// Over from..to of the first selection. The gauge rises with row / R.
+[[nodiscard]] PiThetaWindows ComputePiThetaWindows(const ActiveData& ad, int32_t from,
+                                                   int32_t to, const SlidingWindowSpec& geometry,
+                                                   const PolyGauge& gauge = {});
+
+// The grid: column titles, and one row of cell texts per window.
+[[nodiscard]] std::vector<std::string> PiThetaGridTitles();
+[[nodiscard]] std::vector<std::string> PiThetaGridRow(const PiThetaWindow& row);
+// "start-end" right-aligned in 11 characters: the "Window" cell of every window driver.
+[[nodiscard]] std::string WindowCell(const WindowBounds& window);
+
+// The graph's table: rows 1..R, columns midpoint, Pi, Theta, S (1 to 4).
+[[nodiscard]] GraphData PiThetaGraph(const PiThetaWindows& windows);
+
+}  // namespace ovelt

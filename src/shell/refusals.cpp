@@ -1,0 +1,168 @@
+#include "shell/refusals.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace ovelt {
+
+namespace {
+
+std::string Upper(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  return text;
+}
+
+bool SetHasIncludedSequence(const PoblacionSecuencias& set, const ActiveData& data) {
+  for (double member : set.members()) {
+    const auto seq = static_cast<int32_t>(member);
+    if (seq >= 1 && seq < static_cast<int32_t>(data.SeqIncluded.size()) &&
+        data.SeqIncluded[static_cast<size_t>(seq)])
+      return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+std::string InputFileLine(const ActiveData& data) { return "Input data file: " + data.FilePath; }
+
+int SetsWithIncludedSequences(const ActiveData& data, bool only_active) {
+  int count = 0;
+  for (int32_t s = 1; s <= data.SetCount(); ++s) {
+    const PoblacionSecuencias& set = data.SequenceSets[static_cast<size_t>(s)];
+    if (only_active && set.active() != 1) continue;
+    if (SetHasIncludedSequence(set, data)) ++count;
+  }
+  return count;
+}
+
+int MensajeNoPobsDefined(int16_t analysis, ActiveData& data, Platform& platform) {
+  if (data.SetCount() >= 2) return 0;
+  std::string text = data.SetCount() == 0 ? "No Sequence Sets (Populations) defined !"
+                                          : "Only one Sequence Set (Population) defined !";
+  if (analysis % 1000 == 14) {
+    text +=
+        "\nThe present analysis requires the definition of 2 Sets of Sequences. Each Set must "
+        "include information of each species.\nDo you want to define the Sequences Sets now ?";
+  } else {
+    text +=
+        "\nThe present analysis requires, at least, the definition of 2 Sets of Sequences. Do "
+        "you want to define them?";
+  }
+  if (platform.MessageBox(text, MsgIcon::kQuestion, MsgButtons::kYesNo) != MsgAnswer::kYes)
+    return 1;
+  platform.ShowDialog("dlgDefPop");
+  return data.SetCount() >= 2 ? 0 : 1;
+}
+
+int MensajeNoPobsDefined2(ActiveData& data, Platform& platform) {
+  if (data.SetCount() >= 1) return 0;
+  const std::string text =
+      "No Sequence Sets (Populations) defined !\nThe present analysis requires, at least, one "
+      "Set of Sequences.\nDo you want to define the Sequences Sets now ?";
+  if (platform.MessageBox(text, MsgIcon::kQuestion, MsgButtons::kYesNo) != MsgAnswer::kYes)
+    return 1;
+  platform.ShowDialog("dlgDefPop");
+  return data.SetCount() >= 1 ? 0 : 1;
+}
+
+int MensajeNoCodingRegionDefined(ActiveData& data, Platform& platform) {
+  if (data.Format.CodingAssigned >= 1) return 0;
+  const std::string text =
+      "No Protein Coding Region Defined !\nDo you want to define the Protein Coding Region now ?";
+  if (platform.MessageBox(text, MsgIcon::kQuestion, MsgButtons::kYesNo) != MsgAnswer::kYes)
+    return 1;
+  platform.ShowDialog("Form14");
+  return data.Format.CodingAssigned >= 1 ? 0 : 1;
+}
+
+int MensajeNoPrefUnPrefTablaDefined(ActiveData& data, Platform& platform) {
+  auto unassigned = [&data] {
+    const std::string name = Upper(data.PrefTableName);
+    return name == "UNKNOWN" || name == "NONE";
+  };
+  if (!unassigned()) return 0;
+  const std::string text =
+      "There is no any Preferred/Unpreferred Codons Table assigned!\nDo you want to assign the "
+      "table now?";
+  if (platform.MessageBox(text, MsgIcon::kQuestion, MsgButtons::kYesNo) != MsgAnswer::kYes)
+    return 1;
+  platform.ShowDialog("PrefUnprefTable");
+  return unassigned() ? 1 : 0;
+}
+
+bool PassesCheck(Check check, const CommandRow& row, ActiveData& data, Platform& platform) {
+  const std::string file_line = "\n" + InputFileLine(data);
+  switch (check) {
+    case Check::kOneSequence: {
+      if (data.NumSeqs != 1) return true;
+      std::string first = "Only one sequence in the Data File. Can't compute " + row.title + ".";
+      if (row.number % 1000 == 21)
+        first = "Only one sequence in the Data File. Can't create a file with the polymorphic sites";
+      if (row.number % 1000 == 24)
+        first = "Only one sequence in the Data File. Can't analyze the Ovelt Workbench.";
+      platform.MessageBox(first + file_line, MsgIcon::kWarning);
+      return false;
+    }
+    case Check::kFourSequences:
+      if (data.NumSeqs >= 4) return true;
+      platform.MessageBox(
+          "Four or more sequences are needed to compute the " + row.title + "." + file_line,
+          MsgIcon::kWarning);
+      return false;
+    case Check::kTwoSequences:
+      if (data.NumSeqs != 2) return true;
+      platform.MessageBox("Only two sequences in the Data File. Can't compute " + row.title + ".",
+                          MsgIcon::kWarning);
+      return false;
+    case Check::kTwoSets:
+      return MensajeNoPobsDefined(row.number, data, platform) == 0;
+    case Check::kOneSet:
+      return MensajeNoPobsDefined2(data, platform) == 0;
+    case Check::kCodingRegion:
+      return MensajeNoCodingRegionDefined(data, platform) == 0;
+    case Check::kPrefTable:
+      return MensajeNoPrefUnPrefTablaDefined(data, platform) == 0;
+    case Check::kCodingNotice:
+      if (data.Format.CodingAssigned >= 1) return true;
+      return platform.MessageBox(
+                 "No Protein Coding region defined. All sites will be considered as noncoding "
+                 "positions.",
+                 MsgIcon::kInformation, MsgButtons::kOkCancel) == MsgAnswer::kOk;
+    case Check::kActiveSets: {
+      const std::string tail = " Can't compute the Gene Flow between/among populations.";
+      if (data.SetCount() == 0) {
+        platform.MessageBox("There are 0 defined populations." + tail, MsgIcon::kWarning);
+        return false;
+      }
+      if (data.SetCount() == 1) {
+        platform.MessageBox("There is only one defined population." + tail, MsgIcon::kWarning);
+        return false;
+      }
+      const int active = SetsWithIncludedSequences(data, true);
+      if (active == 0) {
+        platform.MessageBox("There are 0 active populations with included sequences." + tail,
+                            MsgIcon::kWarning);
+        return false;
+      }
+      if (active == 1) {
+        platform.MessageBox("There is only 1 active populations with included sequences." + tail,
+                            MsgIcon::kWarning);
+        return false;
+      }
+      return true;
+    }
+    case Check::kSetsWithSeqs:
+      if (SetsWithIncludedSequences(data, false) >= 2) return true;
+      platform.MessageBox(
+          "There are less than 2 populations with included sequences. Can't analyse the data.",
+          MsgIcon::kWarning);
+      return false;
+    case Check::kNoOpenFile:
+      return data.OpenFiles == 0;
+  }
+  return false;
+}
+
+}  // namespace ovelt
