@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Converts the CSV tables of critical values of the neutrality tests into the C++ source that
-the build embeds (src/analyses/polymorphism/critical_tables_data.cpp). Run once, by hand, when
+the build embeds (src/analyses/polymorphism/neutrality/critical_tables_data.cpp). Run once, by hand, when
 the tables change; the program never reads the CSV files.
 
     tools/critical_tables.py CSV_DIR [OUTPUT.cpp]
@@ -41,7 +41,7 @@ HEADER = """\
 // genealogies per n, seed 19930301, the widest bound over theta = 2 .. 20), rounded to two
 // decimals.
 
-#include "analyses/polymorphism/critical_tables.h"
+#include "analyses/polymorphism/neutrality/critical_tables.h"
 
 namespace ovelt {
 """
@@ -122,7 +122,7 @@ def main():
     csv_dir = pathlib.Path(sys.argv[1])
     root = pathlib.Path(__file__).resolve().parent.parent
     output = (pathlib.Path(sys.argv[2]) if len(sys.argv) == 3 else
-              root / "src/analyses/polymorphism/critical_tables_data.cpp")
+              root / "src/analyses/polymorphism/neutrality/critical_tables_data.cpp")
     lines = HEADER.splitlines() + [""]
     lines += tajima_source(csv_dir)
     for function, file_name, first_index in FULI_TABLES:
