@@ -4,6 +4,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <memory>
 #include <random>
 
 #include "analyses/polymorphism/diversity/dna_polymorphism.h"
@@ -12,18 +13,26 @@
 #include "analyses/polymorphism/common/pi_variance.h"
 #include "analyses/polymorphism/windows/sliding_window_pi.h"
 #include "core/active_data.h"
+#include "core/selection.h"
 #include "core/site_scan.h"
 
 namespace {
 
+// The selection of all sequences over all sites, with the data it was made from.
+struct Workload {
+  std::unique_ptr<ovelt::ActiveData> Data;
+  ovelt::Selection Sel;
+};
+
 // Sequences descend from one ancestor with a rare mutation every 20 sites on average, so that
 // most sites carry a few variants, as samples do. Every 500th site has a gap in one sequence.
-ovelt::ActiveData MakeSelection(int32_t seqs, int32_t sites) {
+Workload MakeSelection(int32_t seqs, int32_t sites) {
   std::mt19937 rng(7);
   const char bases[4] = {'A', 'C', 'G', 'T'};
   std::vector<char> ancestor(static_cast<size_t>(sites));
   for (auto& c : ancestor) c = bases[rng() % 4];
-  ovelt::ActiveData d;
+  auto data = std::make_unique<ovelt::ActiveData>();
+  ovelt::ActiveData& d = *data;
   d.RawMatrix.set_sites(sites);
   d.RawMatrix.reserve_sequences(seqs);
   std::vector<char> row;
@@ -43,18 +52,21 @@ ovelt::ActiveData MakeSelection(int32_t seqs, int32_t sites) {
   ovelt::ClassifyAllSites(d);
   d.RawSiteClass = d.SiteClass;
   ovelt::ComputeSiteDiversity(d);
-  ovelt::SelectOneSet(d, 0);
-  return d;
+  d.Region = {1, sites};
+  Workload w;
+  w.Sel = ovelt::SelectOneSet(d, 0, d.Region);
+  w.Data = std::move(data);
+  return w;
 }
 
 void BM_DnaPolymorphismReport(benchmark::State& state) {
   const auto seqs = static_cast<int32_t>(state.range(0));
   const auto sites = static_cast<int32_t>(state.range(1));
-  const ovelt::ActiveData d = MakeSelection(seqs, sites);
+  const Workload w = MakeSelection(seqs, sites);
   ovelt::DnaPolOptions options;
   options.ComputeVarPi = options.ComputeJC = true;
   for (auto _ : state) {
-    auto r = ovelt::ComputeDnaPolymorphism(d, 1, sites, options, {});
+    auto r = ovelt::ComputeDnaPolymorphism(w.Sel, 1, sites, options, {});
     benchmark::DoNotOptimize(r.SamplingVariance);
   }
   state.SetItemsProcessed(state.iterations() * state.range(0) * state.range(1));
@@ -67,17 +79,17 @@ BENCHMARK(BM_DnaPolymorphismReport)
 
 void BM_Haplotypes(benchmark::State& state) {
   const auto sites = static_cast<int32_t>(state.range(1));
-  const ovelt::ActiveData d = MakeSelection(static_cast<int32_t>(state.range(0)), sites);
-  for (auto _ : state) benchmark::DoNotOptimize(ovelt::ComputeHaplotypes(d, 1, sites).Hd);
+  const Workload w = MakeSelection(static_cast<int32_t>(state.range(0)), sites);
+  for (auto _ : state) benchmark::DoNotOptimize(ovelt::ComputeHaplotypes(w.Sel, 1, sites).Hd);
   state.SetItemsProcessed(state.iterations() * state.range(0) * state.range(1));
 }
 BENCHMARK(BM_Haplotypes)->Args({1000, 100000})->Unit(benchmark::kMillisecond);
 
 void BM_PairwiseDifferences(benchmark::State& state) {
   const auto sites = static_cast<int32_t>(state.range(1));
-  const ovelt::ActiveData d = MakeSelection(static_cast<int32_t>(state.range(0)), sites);
+  const Workload w = MakeSelection(static_cast<int32_t>(state.range(0)), sites);
   for (auto _ : state) {
-    const ovelt::PairCounts counts = ovelt::PairwiseDifferences(d, 1, sites);
+    const ovelt::PairCounts counts = ovelt::PairwiseDifferences(w.Sel, 1, sites);
     benchmark::DoNotOptimize(counts.at(1, 2));
   }
   state.SetItemsProcessed(state.iterations() * state.range(0) * state.range(1));
@@ -86,11 +98,11 @@ BENCHMARK(BM_PairwiseDifferences)->Args({1000, 100000})->Unit(benchmark::kMillis
 
 void BM_SlidingWindowPi(benchmark::State& state) {
   const auto sites = static_cast<int32_t>(state.range(0));
-  const ovelt::ActiveData d = MakeSelection(20, sites);
+  const Workload w = MakeSelection(20, sites);
   const ovelt::SlidingWindowSpec geometry{100, 1, false};
   for (auto _ : state) {
-    auto w = ovelt::ComputePiThetaWindows(d, 1, sites, geometry);
-    benchmark::DoNotOptimize(w.Rows.data());
+    auto windows = ovelt::ComputePiThetaWindows(w.Sel, 1, sites, geometry);
+    benchmark::DoNotOptimize(windows.Rows.data());
   }
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }

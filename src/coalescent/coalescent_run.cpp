@@ -22,7 +22,8 @@ std::optional<SimulationMessage> RunCoalescent(OutputChannel& channel, const Sim
   channel.SetBusy(true, kCoalescentBusyStatus);
   SimulationResult result;
   try {
-    result = RunSimulation(sim, [&channel](int percent) { channel.RaiseGauge(percent); }, threads);
+    result = RunSimulation(
+        sim, [&channel](int percent) { channel.RaiseGauge(percent); }, threads);
   } catch (const std::bad_alloc&) {
     channel.EndFailedRun();
     return SimulationMessage{
@@ -35,6 +36,7 @@ std::optional<SimulationMessage> RunCoalescent(OutputChannel& channel, const Sim
   channel.RaiseGauge(100);
   channel.AppendText(SimulationReportText(sim, result));
   channel.ResultCode = kCoalescentCommand;
+  channel.Labels.Title = "Coalescent Simulations";
   channel.ShowResult(kResultTextOnly);
   channel.SetBusy(false);
   channel.SetStatus(kCoalescentDoneStatus);

@@ -1,14 +1,15 @@
 #include "coalescent/simulation_report.h"
 
 #include "coalescent/statistic_code.h"
+#include "core/line_end.h"
 #include "output/format_mask.h"
 
 namespace ovelt {
 namespace {
 
-constexpr const char* kLineEnd = "\r\n";
-
-std::string Line(const std::string& text) { return text + kLineEnd; }
+std::string Line(const std::string& text) {
+  return text + kCrLf;
+}
 
 }  // namespace
 

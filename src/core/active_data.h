@@ -1,8 +1,9 @@
 #pragma once
-// The state of the one open data file, in four layers: what the file held (file layer), the
-// sequences the user left included (included layer), the sequences of the running command
-// (selection layer), and the settings. Per-site and per-sequence arrays count from 1 and keep
-// an unused index 0, so that their indices read like the site and sequence numbers of reports.
+// The state of the one open data file: what the file held (file layer), the sequences the user
+// left included (included layer), and the settings. The fourth layer, the sequences of the
+// running command, is a value of its own (core/selection.h) that each run makes from these.
+// Per-site and per-sequence arrays count from 1 and keep an unused index 0, so that their indices
+// read like the site and sequence numbers of reports.
 
 #include <cstdint>
 #include <string>
@@ -84,30 +85,13 @@ struct ActiveData {
   std::vector<int16_t> SiteClass{0};
   std::vector<double> SiteDiversity{0.0};
 
-  // Selection layer.
-  int16_t SelSet1 = 0, SelSet2 = 0, SelSet3 = 0;
-  int32_t SelCount1 = 0, SelCount2 = 0, SelCount3 = 0;
-  SeqMatrix SelMatrix1, SelMatrix2, SelMatrix3;
-  std::vector<std::string> SelNames1{""}, SelNames2{""}, SelNames3{""};
-  // File sequence numbers of the selected sequences (1-based, index 0 unused); the report head
-  // lists them when not all candidates are used.
-  std::vector<int32_t> SelSeqNumbers1{0};
-  std::vector<int16_t> SelSiteClass1{0}, SelSiteClass2{0};
-  std::vector<double> SelSiteDiversity1{0.0}, SelSiteDiversity2{0.0};
-  int32_t SelOutCount = 0;
-  int32_t SelSites = 0;
-  // Left by the net-sites count for the caller to read straight after.
-  int32_t SegSites = 0;
-  double SumSiteDiversity = 0.0;
-
+  // The region of the last confirmed dialog.
   RegionSelection Region;
   FormatAttributes Format;
 
   // Sequence sets, 1..count (index 0 unused).
   std::vector<PoblacionSecuencias> SequenceSets{PoblacionSecuencias{}};
-  [[nodiscard]] int32_t SetCount() const {
-    return static_cast<int32_t>(SequenceSets.size()) - 1;
-  }
+  [[nodiscard]] int32_t SetCount() const { return static_cast<int32_t>(SequenceSets.size()) - 1; }
 
   // Coding map (per site, 1..NumSites).
   std::vector<int16_t> CodonPosition{0};

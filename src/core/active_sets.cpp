@@ -1,5 +1,7 @@
 #include "core/active_sets.h"
 
+#include "core/command_id.h"
+
 #include <algorithm>
 
 namespace ovelt {
@@ -32,7 +34,7 @@ int32_t NumeroNetoPoblacionesIncluidas(const forms_class& work,
 }
 
 std::optional<std::string> CheckActivePopulations(const ActiveData& ad, const forms_class& work) {
-  if (ad.Analysis % 1000 != kGeneFlowCommand) return std::nullopt;
+  if (TitleCode(ad.Analysis) != TitleCode(CommandId::kGeneFlow)) return std::nullopt;
   if (NumeroNetoPoblacionesIncluidas(work, ad.SeqIncluded) >= 2) return std::nullopt;
   return kTooFewActivePopulations;
 }

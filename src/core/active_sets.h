@@ -12,7 +12,6 @@
 
 namespace ovelt {
 
-inline constexpr int16_t kGeneFlowCommand = 28;
 inline const std::string kTooFewActivePopulations =
     "There are less than 2 active populations with included sequences. Can't compute the Gene "
     "Flow between/among populations.";

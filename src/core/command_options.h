@@ -29,34 +29,67 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ovelt {
 
 struct OptionField {
-  std::string key;      // command-line flag, without "--"
-  std::string label;    // the dialog's words
-  std::string help;     // one line for --help
+  std::string key;                              // command-line flag, without "--"
+  std::string label;                            // the dialog's words
+  std::string help;                             // one line for --help
   std::string invalid = " Invalid Selection ";  // what a value out of range gets
 };
 
-// Checks every Integer, Real and Choice field against its limits; the first failure's message.
-class OptionRangeCheck {
+// The members above as one interface, so that the faces and the runner can walk the options of
+// any command without knowing their type.
+class OptionVisitor {
  public:
-  void Region(int32_t&, int32_t&) {}
-  void SetIndex(int16_t&, const OptionField&) {}
-  void Flag(bool&, const OptionField&) {}
-  void Text(std::string&, const OptionField&) {}
-  void Integer(int32_t& value, const OptionField& field, int64_t min, int64_t max) {
+  virtual ~OptionVisitor() = default;
+  virtual void Region(int32_t& from, int32_t& to) = 0;
+  virtual void SetIndex(int16_t& index, const OptionField& field) = 0;
+  virtual void Flag(bool& value, const OptionField& field) = 0;
+  virtual void Integer(int32_t& value, const OptionField& field, int64_t min, int64_t max) = 0;
+  virtual void Real(double& value, const OptionField& field, double min, double max) = 0;
+  virtual void Choice(int16_t& value, const OptionField& field,
+                      const std::vector<std::string>& texts, int16_t first_value) = 0;
+  virtual void Text(std::string& value, const OptionField& field) = 0;
+};
+
+// The options of some command, walked through OptionVisitor.
+class CommandOptions {
+ public:
+  virtual ~CommandOptions() = default;
+  virtual void Visit(OptionVisitor& visitor) = 0;
+};
+
+// The options struct of one command behind the CommandOptions interface.
+template <class Options>
+class TypedOptions final : public CommandOptions {
+ public:
+  TypedOptions() = default;
+  explicit TypedOptions(Options value) : Value(std::move(value)) {}
+  void Visit(OptionVisitor& visitor) override { Value.Visit(visitor); }
+  Options Value;
+};
+
+// Checks every Integer, Real and Choice field against its limits; the first failure's message.
+class OptionRangeCheck final : public OptionVisitor {
+ public:
+  void Region(int32_t&, int32_t&) override {}
+  void SetIndex(int16_t&, const OptionField&) override {}
+  void Flag(bool&, const OptionField&) override {}
+  void Text(std::string&, const OptionField&) override {}
+  void Integer(int32_t& value, const OptionField& field, int64_t min, int64_t max) override {
     if (!failure && (value < min || value > max)) failure = field.invalid;
   }
-  void Real(double& value, const OptionField& field, double min, double max) {
+  void Real(double& value, const OptionField& field, double min, double max) override {
     if (!failure && !(value >= min && value <= max)) failure = field.invalid;
   }
   void Choice(int16_t& value, const OptionField& field, const std::vector<std::string>& texts,
-              int16_t first_value) {
-    if (!failure && (value < first_value ||
-                     value >= first_value + static_cast<int16_t>(texts.size())))
+              int16_t first_value) override {
+    if (!failure &&
+        (value < first_value || value >= first_value + static_cast<int16_t>(texts.size())))
       failure = field.invalid;
   }
   std::optional<std::string> failure;

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
@@ -15,6 +15,6 @@ inline const std::string kIdenticalLinesError = "Error computing BuscaLineasIden
 // gap or missing data (class 5) are left out of the comparison. Each sequence not yet grouped
 // opens a group that every later identical sequence joins; the result is the size of the
 // largest group (1 when all differ, 0 with no sequence).
-[[nodiscard]] int32_t BuscaLineasIdenticas(const ActiveData& ad, int32_t first, int32_t last);
+[[nodiscard]] int32_t BuscaLineasIdenticas(const Selection& sel, int32_t first, int32_t last);
 
 }  // namespace ovelt

@@ -1,14 +1,11 @@
 #pragma once
-// How many sequences each command needs, and the words of the refusal.
+// The refusal of a selection smaller than its command needs (each command's minimum is one of
+// its facts), and the largest number of sequences a file may hold.
 
 #include <cstdint>
 #include <string>
 
 namespace ovelt {
-
-// 0 when `in_use` sequences are enough for command `analysis` (taken modulo 1000), else the
-// minimum the command needs.
-[[nodiscard]] int32_t MinimumSequences(int16_t analysis, int32_t in_use);
 
 // "At least 2 sequences are needed for the present analysis", two line breaks and
 // "Invalid Selection !" ("... 1 sequence is needed ..." for one).

@@ -5,21 +5,29 @@
 
 #include <cstdint>
 
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
-// Net sites of `first`..`last` (both included) by `SelSiteClass1`. Also leaves in `ad` the
-// number of segregating sites (`SegSites`) and the sum of the per-site diversities
-// (`SumSiteDiversity`) over the net sites, for the caller to read straight after.
-[[nodiscard]] int32_t NetSites(ActiveData& ad, int32_t first, int32_t last);
+// What the count of the net sites of a region finds.
+struct NetSiteCount {
+  int32_t Net = 0;                // sites without gaps or missing data among the sequences in use
+  int32_t SegSites = 0;           // net sites with a positive diversity
+  double SumSiteDiversity = 0.0;  // summed per-site diversity over the net sites
+};
+
+// Net sites of `first`..`last` (both included) by `SelSiteClass1`.
+[[nodiscard]] NetSiteCount CountNetSites(const Selection& sel, int32_t first, int32_t last);
+[[nodiscard]] inline int32_t NetSites(const Selection& sel, int32_t first, int32_t last) {
+  return CountNetSites(sel, first, last).Net;
+}
 
 // Mutations above one per site: (sites of class 3) + 2 * (sites of class 4). The total number
 // of mutations, Eta, is `SegSites` plus this.
-[[nodiscard]] int32_t ExtraMutations(const ActiveData& ad, int32_t first, int32_t last);
+[[nodiscard]] int32_t ExtraMutations(const Selection& sel, int32_t first, int32_t last);
 
-// Sites of `RegionFrom`..`RegionTo` where every sequence of the first selection has "-" or "?".
-[[nodiscard]] int32_t FixedGaps(const ActiveData& ad);
+// Sites of the selection's region where every sequence of the first selection has "-" or "?".
+[[nodiscard]] int32_t FixedGaps(const Selection& sel);
 
 // Nucleotide diversity per site: the summed diversity over the net sites, 0 with no net site.
 [[nodiscard]] double DiversityPerSite(double sum_site_diversity, int32_t net_sites);

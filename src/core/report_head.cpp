@@ -1,14 +1,15 @@
 #include "core/report_head.h"
 
+#include "core/line_end.h"
 #include "core/net_sites.h"
 
 namespace ovelt {
 
 namespace {
 
-constexpr const char* kLineEnd = "\r\n";
-
-bool HasSet(const ActiveData& ad) { return ad.SelSet1 > 0 && ad.SelSet1 <= ad.SetCount(); }
+bool HasSet(const Selection& sel) {
+  return sel.SelSet1 > 0 && sel.SelSet1 <= sel.data().SetCount();
+}
 
 }  // namespace
 
@@ -26,54 +27,55 @@ std::string CompactNumberList(const std::vector<int32_t>& numbers) {
   return text;
 }
 
-std::string ReportHead(const ActiveData& ad, int32_t net_sites) {
-  std::string head = kLineEnd;
-  head += " Input Data File: " + ad.FilePath + kLineEnd;
+std::string ReportHead(const Selection& sel, int32_t net_sites, bool with_fixed_gaps) {
+  const ActiveData& ad = sel.data();
+  std::string head = kCrLf;
+  head += " Input Data File: " + ad.FilePath + kCrLf;
 
-  const std::string used = "    Number of sequences used: " + std::to_string(ad.SelCount1);
+  const std::string used = "    Number of sequences used: " + std::to_string(sel.SelCount1);
   bool all_used = true;
-  if (HasSet(ad)) {
-    const PoblacionSecuencias& set = ad.SequenceSets[static_cast<size_t>(ad.SelSet1)];
-    head += " Population used: " + set.nombre() + kLineEnd;
-    head += used + kLineEnd;
-    all_used = set.max() == static_cast<double>(ad.SelCount1);
+  if (HasSet(sel)) {
+    const PoblacionSecuencias& set = ad.SequenceSets[static_cast<size_t>(sel.SelSet1)];
+    head += " Population used: " + set.nombre() + kCrLf;
+    head += used + kCrLf;
+    all_used = set.max() == static_cast<double>(sel.SelCount1);
   } else {
-    head += " Number of sequences: " + std::to_string(ad.TotalSeqs) + used + kLineEnd;
-    all_used = ad.TotalSeqs == ad.SelCount1;
+    head += " Number of sequences: " + std::to_string(ad.TotalSeqs) + used + kCrLf;
+    all_used = ad.TotalSeqs == sel.SelCount1;
   }
 
   if (!all_used) {
-    if (ad.SelCount1 < 10) {
-      head += std::string("    Sequences used: ") + kLineEnd;
-      for (int32_t seq = 1; seq <= ad.SelCount1; ++seq) {
+    if (sel.SelCount1 < 10) {
+      head += std::string("    Sequences used: ") + kCrLf;
+      for (int32_t seq = 1; seq <= sel.SelCount1; ++seq) {
         const auto s = static_cast<size_t>(seq);
-        head += "       " + (s < ad.SelNames1.size() ? ad.SelNames1[s] : std::string()) + kLineEnd;
+        head += "       " + (s < sel.SelNames1.size() ? sel.SelNames1[s] : std::string()) + kCrLf;
       }
     } else {
       std::vector<int32_t> numbers;
-      if (ad.SelSeqNumbers1.size() > 1) {
-        numbers.assign(ad.SelSeqNumbers1.begin() + 1, ad.SelSeqNumbers1.end());
+      if (sel.SelSeqNumbers1.size() > 1) {
+        numbers.assign(sel.SelSeqNumbers1.begin() + 1, sel.SelSeqNumbers1.end());
       }
-      head += "    Sequences used: " + CompactNumberList(numbers) + kLineEnd;
+      head += "    Sequences used: " + CompactNumberList(numbers) + kCrLf;
     }
   }
 
-  const int32_t from = ad.Region.RegionFrom, to = ad.Region.RegionTo;
+  const int32_t from = sel.Region.RegionFrom, to = sel.Region.RegionTo;
   const int32_t sites = to - from + 1;
   head += " Selected region: " + std::to_string(from) + "-" + std::to_string(to) +
-          "   Number of sites: " + std::to_string(sites) + kLineEnd;
+          "   Number of sites: " + std::to_string(sites) + kCrLf;
   if (ad.GapsInSets == 2) {
-    head += std::string("    Sites with gaps in the complete data file were excluded") + kLineEnd;
+    head += std::string("    Sites with gaps in the complete data file were excluded") + kCrLf;
   }
-  if (ad.Analysis == 1) {
-    const int32_t fixed = FixedGaps(ad);
+  if (with_fixed_gaps) {
+    const int32_t fixed = FixedGaps(sel);
     if (fixed > 0) {
       head += "    Number of sites (excluding fixed gaps / missing data): " +
-              std::to_string(sites - fixed) + kLineEnd;
+              std::to_string(sites - fixed) + kCrLf;
     }
   }
   head += " Total number of sites (excluding sites with gaps / missing data): " +
-          std::to_string(net_sites) + kLineEnd;
+          std::to_string(net_sites) + kCrLf;
   return head;
 }
 

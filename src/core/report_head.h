@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
@@ -14,7 +14,10 @@ namespace ovelt {
 [[nodiscard]] std::string CompactNumberList(const std::vector<int32_t>& numbers);
 
 // The report head for the first selection, CR LF line ends, beginning with an empty line.
-// `net_sites` is what the analysis counted (normally `NetSites` over the region).
-[[nodiscard]] std::string ReportHead(const ActiveData& ad, int32_t net_sites);
+// `net_sites` is what the analysis counted (normally `NetSites` over the region);
+// `with_fixed_gaps` adds the count of the sites left once the fixed gaps are taken out (the
+// polymorphic sites report).
+[[nodiscard]] std::string ReportHead(const Selection& sel, int32_t net_sites,
+                                     bool with_fixed_gaps = false);
 
 }  // namespace ovelt

@@ -32,8 +32,8 @@ std::vector<int32_t> IncludedNumbers(const ActiveData& ad) {
 std::vector<int32_t> SetNumbers(const ActiveData& ad, int16_t set) {
   std::vector<int32_t> numbers{0};
   if (set > ad.SetCount()) return numbers;
-  const int32_t total = std::min<int32_t>(ad.RawMatrix.seqs(),
-                                          static_cast<int32_t>(ad.SeqIncluded.size()) - 1);
+  const int32_t total =
+      std::min<int32_t>(ad.RawMatrix.seqs(), static_cast<int32_t>(ad.SeqIncluded.size()) - 1);
   for (const double member : ad.SequenceSets[static_cast<size_t>(set)].members()) {
     const auto seq = static_cast<int32_t>(member);
     if (seq < 1 || seq > total) continue;
@@ -67,42 +67,67 @@ void Fill(const ActiveData& ad, int16_t set, SelectionSlot slot) {
   if (slot.numbers != nullptr) *slot.numbers = std::move(numbers);
 }
 
-SelectionSlot First(ActiveData& ad) {
-  return {ad.SelMatrix1, ad.SelNames1, ad.SelCount1, &ad.SelSeqNumbers1};
+SelectionSlot First(Selection& sel) {
+  return {sel.SelMatrix1, sel.SelNames1, sel.SelCount1, &sel.SelSeqNumbers1};
+}
+
+Selection Begin(const ActiveData& ad, RegionSelection region) {
+  Selection sel;
+  sel.Data = &ad;
+  sel.Region = region;
+  sel.SelSites = ad.NumSites;
+  return sel;
 }
 
 }  // namespace
 
-void SelectOneSet(ActiveData& ad, int16_t set) {
-  ad.SelSet1 = set;
-  Fill(ad, set, First(ad));
+Selection SelectOneSet(const ActiveData& ad, int16_t set, RegionSelection region) {
+  Selection sel = Begin(ad, region);
+  sel.SelSet1 = set;
+  Fill(ad, set, First(sel));
   if (set <= 0) {
-    ad.SelSiteClass1 = ad.SiteClass;
-    ad.SelSiteDiversity1 = ad.SiteDiversity;
+    sel.SelSiteClass1 = ad.SiteClass;
+    sel.SelSiteDiversity1 = ad.SiteDiversity;
   } else {
-    ClassifySelection1(ad);
-    DiversitySelection1(ad);
+    ClassifyFirst(sel);
   }
-  ad.SelOutCount = ad.SelCount1;
+  sel.SelOutCount = sel.SelCount1;
+  return sel;
 }
 
-void SelectTwoSets(ActiveData& ad, int16_t set1, int16_t set2) {
-  ad.SelSet1 = set1;
-  ad.SelSet2 = set2;
-  Fill(ad, set1, First(ad));
-  Fill(ad, set2, {ad.SelMatrix2, ad.SelNames2, ad.SelCount2, nullptr});
-  ad.SelOutCount = ad.SelCount1;
+Selection SelectTwoSets(const ActiveData& ad, int16_t set1, int16_t set2, RegionSelection region) {
+  Selection sel = Begin(ad, region);
+  sel.SelSet1 = set1;
+  sel.SelSet2 = set2;
+  Fill(ad, set1, First(sel));
+  Fill(ad, set2, {sel.SelMatrix2, sel.SelNames2, sel.SelCount2, nullptr});
+  sel.SelOutCount = sel.SelCount1;
+  return sel;
 }
 
-void SelectFirstSetOnly(ActiveData& ad, int16_t set1) {
-  ad.SelSet1 = set1;
-  Fill(ad, set1, First(ad));
-  ad.SelOutCount = ad.SelCount1;
+Selection SelectFirstSetOnly(const ActiveData& ad, int16_t set1, RegionSelection region) {
+  Selection sel = Begin(ad, region);
+  sel.SelSet1 = set1;
+  Fill(ad, set1, First(sel));
+  sel.SelOutCount = sel.SelCount1;
+  return sel;
 }
 
-void SelectThirdSet(ActiveData& ad, int16_t set3) {
-  ad.SelSet3 = set3;
-  Fill(ad, set3, {ad.SelMatrix3, ad.SelNames3, ad.SelCount3, nullptr});
+void AddThirdSet(Selection& sel, int16_t set3) {
+  sel.SelSet3 = set3;
+  Fill(sel.data(), set3, {sel.SelMatrix3, sel.SelNames3, sel.SelCount3, nullptr});
+}
+
+void ClassifyFirst(Selection& sel) {
+  const ActiveData& ad = sel.data();
+  sel.SelSiteClass1 = SubsetClasses(ad, sel.SelMatrix1, sel.SelCount1);
+  sel.SelSiteDiversity1 = SubsetDiversities(ad, sel.SelMatrix1, sel.SelCount1, sel.SelSiteClass1);
+}
+
+void ClassifySecond(Selection& sel) {
+  const ActiveData& ad = sel.data();
+  sel.SelSiteClass2 = SubsetClasses(ad, sel.SelMatrix2, sel.SelCount2);
+  sel.SelSiteDiversity2 = SubsetDiversities(ad, sel.SelMatrix2, sel.SelCount2, sel.SelSiteClass2);
 }
 
 }  // namespace ovelt

@@ -18,10 +18,18 @@ NucleotideCounts CountColumn(const SeqMatrix& matrix, int32_t site, int32_t seqs
   NucleotideCounts counts;
   for (int32_t seq = 1; seq <= seqs; ++seq) {
     switch (matrix.at(site, seq)) {
-      case 'A': ++counts.count[0]; break;
-      case 'C': ++counts.count[1]; break;
-      case 'G': ++counts.count[2]; break;
-      case 'T': ++counts.count[3]; break;
+      case 'A':
+        ++counts.count[0];
+        break;
+      case 'C':
+        ++counts.count[1];
+        break;
+      case 'G':
+        ++counts.count[2];
+        break;
+      case 'T':
+        ++counts.count[3];
+        break;
       default:
         counts.gap = true;
         return counts;
@@ -34,18 +42,23 @@ int16_t ClassFromCounts(const NucleotideCounts& counts) {
   if (counts.gap) return kGapOrMissing;
   const auto zeros = std::count(counts.count.begin(), counts.count.end(), 0);
   switch (zeros) {
-    case 0: return kFourVariants;
-    case 1: return kThreeVariants;
+    case 0:
+      return kFourVariants;
+    case 1:
+      return kThreeVariants;
     case 2: {
       const bool singleton =
           std::find(counts.count.begin(), counts.count.end(), 1) != counts.count.end();
       return singleton ? kSingletonSite : kInformativeSite;
     }
-    default: return kMonomorphic;  // one variant, or no sequence at all
+    default:
+      return kMonomorphic;  // one variant, or no sequence at all
   }
 }
 
-bool IsNucleotide(char cell) { return cell == 'A' || cell == 'C' || cell == 'G' || cell == 'T'; }
+bool IsNucleotide(char cell) {
+  return cell == 'A' || cell == 'C' || cell == 'G' || cell == 'T';
+}
 
 int32_t SitesOf(const ActiveData& ad, const SeqMatrix& matrix) {
   return std::min(ad.NumSites, matrix.sites());
@@ -84,12 +97,12 @@ namespace {
 void ClassifySubset(const ActiveData& ad, const SeqMatrix& matrix, int32_t seqs,
                     const std::vector<int16_t>& wider, std::vector<int16_t>& out) {
   seqs = std::min(seqs, matrix.seqs());
-  const int32_t sites = std::min<int32_t>(SitesOf(ad, matrix),
-                                          static_cast<int32_t>(wider.size()) - 1);
+  const int32_t sites =
+      std::min<int32_t>(SitesOf(ad, matrix), static_cast<int32_t>(wider.size()) - 1);
   out.assign(static_cast<size_t>(ad.NumSites) + 1, kMonomorphic);
   for (int32_t site = 1; site <= sites; ++site) {
-    out[static_cast<size_t>(site)] = ClassifySubsetColumn(
-        matrix, site, seqs, wider[static_cast<size_t>(site)], ad.GapsInSets);
+    out[static_cast<size_t>(site)] =
+        ClassifySubsetColumn(matrix, site, seqs, wider[static_cast<size_t>(site)], ad.GapsInSets);
   }
 }
 
@@ -99,12 +112,10 @@ void ReclassifyIncluded(ActiveData& ad) {
   ClassifySubset(ad, ad.IncMatrix, ad.NumSeqs, ad.RawSiteClass, ad.SiteClass);
 }
 
-void ClassifySelection1(ActiveData& ad) {
-  ClassifySubset(ad, ad.SelMatrix1, ad.SelCount1, ad.SiteClass, ad.SelSiteClass1);
-}
-
-void ClassifySelection2(ActiveData& ad) {
-  ClassifySubset(ad, ad.SelMatrix2, ad.SelCount2, ad.SiteClass, ad.SelSiteClass2);
+std::vector<int16_t> SubsetClasses(const ActiveData& ad, const SeqMatrix& matrix, int32_t seqs) {
+  std::vector<int16_t> classes;
+  ClassifySubset(ad, matrix, seqs, ad.SiteClass, classes);
+  return classes;
 }
 
 }  // namespace ovelt

@@ -27,8 +27,8 @@ void ClassifyAllSites(ActiveData& ad);
 // `SiteClass` of the included sequences (`IncMatrix`), from `RawSiteClass` under `GapsInSets`.
 void ReclassifyIncluded(ActiveData& ad);
 
-// `SelSiteClass1` (`SelSiteClass2`) of the first (second) selection, from `SiteClass`.
-void ClassifySelection1(ActiveData& ad);
-void ClassifySelection2(ActiveData& ad);
+// Classes of a subset of the included sequences (`seqs` sequences of `matrix`), from `SiteClass`.
+[[nodiscard]] std::vector<int16_t> SubsetClasses(const ActiveData& ad, const SeqMatrix& matrix,
+                                                 int32_t seqs);
 
 }  // namespace ovelt

@@ -5,8 +5,7 @@
 
 namespace ovelt {
 
-double SiteDiversityValue(const SeqMatrix& matrix, int32_t site, int32_t seqs,
-                          int16_t site_class) {
+double SiteDiversityValue(const SeqMatrix& matrix, int32_t site, int32_t seqs, int16_t site_class) {
   if (site_class == kMonomorphic) return 0.0;
   if (site_class == kGapOrMissing) {
     int32_t gaps = 0;
@@ -18,11 +17,20 @@ double SiteDiversityValue(const SeqMatrix& matrix, int32_t site, int32_t seqs,
   std::array<int32_t, 4> count{};
   for (int32_t seq = 1; seq <= seqs; ++seq) {
     switch (matrix.at(site, seq)) {
-      case 'A': ++count[0]; break;
-      case 'C': ++count[1]; break;
-      case 'G': ++count[2]; break;
-      case 'T': ++count[3]; break;
-      default: break;
+      case 'A':
+        ++count[0];
+        break;
+      case 'C':
+        ++count[1];
+        break;
+      case 'G':
+        ++count[2];
+        break;
+      case 'T':
+        ++count[3];
+        break;
+      default:
+        break;
     }
   }
   const double n = static_cast<double>(seqs);
@@ -40,8 +48,8 @@ namespace {
 void DiversityOf(const ActiveData& ad, const SeqMatrix& matrix, int32_t seqs,
                  const std::vector<int16_t>& classes, std::vector<double>& out) {
   seqs = std::min(seqs, matrix.seqs());
-  const int32_t sites = std::min({ad.NumSites, matrix.sites(),
-                                  static_cast<int32_t>(classes.size()) - 1});
+  const int32_t sites =
+      std::min({ad.NumSites, matrix.sites(), static_cast<int32_t>(classes.size()) - 1});
   out.assign(static_cast<size_t>(ad.NumSites) + 1, 0.0);
   for (int32_t site = 1; site <= sites; ++site) {
     out[static_cast<size_t>(site)] =
@@ -55,12 +63,11 @@ void ComputeSiteDiversity(ActiveData& ad) {
   DiversityOf(ad, ad.IncMatrix, ad.NumSeqs, ad.SiteClass, ad.SiteDiversity);
 }
 
-void DiversitySelection1(ActiveData& ad) {
-  DiversityOf(ad, ad.SelMatrix1, ad.SelCount1, ad.SelSiteClass1, ad.SelSiteDiversity1);
-}
-
-void DiversitySelection2(ActiveData& ad) {
-  DiversityOf(ad, ad.SelMatrix2, ad.SelCount2, ad.SelSiteClass2, ad.SelSiteDiversity2);
+std::vector<double> SubsetDiversities(const ActiveData& ad, const SeqMatrix& matrix, int32_t seqs,
+                                      const std::vector<int16_t>& classes) {
+  std::vector<double> diversities;
+  DiversityOf(ad, matrix, seqs, classes, diversities);
+  return diversities;
 }
 
 }  // namespace ovelt

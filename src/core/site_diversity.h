@@ -20,8 +20,10 @@ namespace ovelt {
 // `SiteDiversity` over `IncMatrix` (`NumSeqs` sequences) and `SiteClass`.
 void ComputeSiteDiversity(ActiveData& ad);
 
-// `SelSiteDiversity1` (`SelSiteDiversity2`) over the first (second) selection and its classes.
-void DiversitySelection1(ActiveData& ad);
-void DiversitySelection2(ActiveData& ad);
+// Diversities of a subset of the included sequences (`seqs` sequences of `matrix`) and its
+// classes.
+[[nodiscard]] std::vector<double> SubsetDiversities(const ActiveData& ad, const SeqMatrix& matrix,
+                                                    int32_t seqs,
+                                                    const std::vector<int16_t>& classes);
 
 }  // namespace ovelt

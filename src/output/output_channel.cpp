@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "output/analysis_titles.h"
 #include "output/report_text.h"
 #include "output/same_file.h"
-#include "output/table_heads.h"
 #include "output/too_big_prompt.h"
 
 namespace ovelt {
@@ -16,8 +14,7 @@ constexpr const char* kSessionNameRefused = "Ovelt is using this file to save al
 constexpr const char* kCantSave = "Can't save the output on the file: ";
 
 bool WritesToSession(int kind) {
-  return kind == kResultTextAndGrid || kind == kResultTextOnly ||
-         kind == kResultTextAndSecondGrid;
+  return kind == kResultTextAndGrid || kind == kResultTextOnly || kind == kResultTextAndSecondGrid;
 }
 
 std::string SessionOpenFailure(const std::string& path) {
@@ -50,7 +47,8 @@ void OutputChannel::ResetOutputs() {
   PermGrid.Clear();
   GeneFlow.Clear();
   TrelmoLines.clear();
-  ResultTitle.clear();
+  Labels = ResultLabels{};
+  Used = UsedSequences{};
   grid_text_head_.reset();
   graph_ = GraphData{};
   ++graph_serial_;
@@ -91,7 +89,9 @@ void OutputChannel::SetGraph(GraphData graph) {
   commands_.GraphButtonsEnabled = true;
 }
 
-void OutputChannel::AppendText(const std::string& text) { TextBuffer += text; }
+void OutputChannel::AppendText(const std::string& text) {
+  TextBuffer += text;
+}
 
 void OutputChannel::ShowResult(int kind) {
   if (RunFailed != 0) return;
@@ -148,10 +148,12 @@ void OutputChannel::EndFailedRun() {
   SetBusy(false);
 }
 
-void OutputChannel::SetGridTextHead(const std::string& head) { grid_text_head_ = head; }
+void OutputChannel::SetGridTextHead(const std::string& head) {
+  grid_text_head_ = head;
+}
 
 std::string OutputChannel::GridTextHead() const {
-  return grid_text_head_ ? *grid_text_head_ : DefaultGridTextHead(ResultCode);
+  return grid_text_head_ ? *grid_text_head_ : Labels.GridTextHead;
 }
 
 std::optional<std::string> OutputChannel::AskTooBig(int64_t rows) {
@@ -187,8 +189,8 @@ std::optional<std::string> OutputChannel::AskTooBigWith(const std::string& quest
 bool OutputChannel::AskPrintFinalOnly(int64_t rows) {
   PrintFinalOnly = 0;
   if (rows <= kPrintPromptRows) return false;
-  const MsgAnswer answer = platform_.MessageBox(PrintFinalOnlyQuestion(rows), MsgIcon::kQuestion,
-                                                MsgButtons::kYesNo);
+  const MsgAnswer answer =
+      platform_.MessageBox(PrintFinalOnlyQuestion(rows), MsgIcon::kQuestion, MsgButtons::kYesNo);
   PrintFinalOnly = answer == MsgAnswer::kYes ? 1 : 0;
   return PrintFinalOnly != 0;
 }
@@ -204,16 +206,15 @@ FileDialogRequest OutputChannel::SendAllOutputDialog() {
 
 std::string OutputChannel::ResultText() {
   // The report itself when the text window holds it; otherwise the head kept for this purpose.
-  const std::string title = ResultTitle.empty() ? AnalysisTitle(ResultCode) : ResultTitle;
-  std::string text = TitleBlock(title, TextShown != 0 ? TextBuffer : HeaderBlock);
+  std::string text = TitleBlock(Labels.Title, TextShown != 0 ? TextBuffer : HeaderBlock);
   if (ResultCode == kTrelmoResultCode) text += TrelmoLines;
   if (GridShown != 0 && ResultCode != kTrelmoResultCode) {
     const std::string previous_status = status_;
     SetStatus(kWritingStatus);
-    text += GridAsText(ResultCode, GridTextHead(), Grid1);
+    text += GridAsText(Labels, GridTextHead(), Grid1);
     SetStatus(previous_status);
   }
-  if (Grid2Shown != 0) text += SecondTableAsText(ResultCode, Grid2);
+  if (Grid2Shown != 0) text += SecondTableAsText(Labels, Grid2);
   return text + GeneFlowAsText(GeneFlow);
 }
 

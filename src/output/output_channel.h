@@ -1,9 +1,9 @@
 #pragma once
 // The one way in which an analysis shows results. A run asks for a clean start (ResetOutputs),
-// appends report text and fills grids, sets `ResultCode` and tells the channel what kind of result
-// now stands (ShowResult). The channel keeps what the windows show, and copies each result to the
-// session file when one is open. The faces read the state below to draw their windows and menus;
-// file names come in as arguments, the faces ask the user for them.
+// appends report text and fills grids, sets `ResultCode` and its labels and tells the channel what
+// kind of result now stands (ShowResult). The channel keeps what the windows show, and copies each
+// result to the session file when one is open. The faces read the state below to draw their windows
+// and menus; file names come in as arguments, the faces ask the user for them.
 //
 // The channel talks to the user only through Platform, which must outlive it. Destroying the
 // channel with a session file open writes the session's end line, as ending the program does.
@@ -14,7 +14,9 @@
 
 #include "output/graph_data.h"
 #include "output/output_grid.h"
+#include "output/result_labels.h"
 #include "output/session_file.h"
+#include "output/used_sequences.h"
 #include "platform/platform.h"
 
 namespace ovelt {
@@ -96,14 +98,15 @@ class OutputChannel {
   int16_t PrintFinalOnly = 0;
   int16_t GridRows = 20;
 
-  OutputGrid Grid1;      // Form10
-  OutputGrid Grid2;      // Form10b
-  OutputGrid PermGrid;   // Output_form
+  OutputGrid Grid1;     // Form10
+  OutputGrid Grid2;     // Form10b
+  OutputGrid PermGrid;  // Output_form
   GeneFlowTable GeneFlow;
   std::string TrelmoLines;  // the data lines a Trelmo shuttle leaves, written as they stand
-  // Title of a result that is no analysis of the title table (the Data Information); when
-  // empty, the title of `ResultCode` is used.
-  std::string ResultTitle;
+  // The titles, captions and grid head of the result that stands, as its command words them.
+  ResultLabels Labels;
+  // The sequences the result that stands was computed from.
+  UsedSequences Used;
 
   // A clean start for a run: hides the result windows, empties the text, the head, the grids and
   // the graph, clears the shown flags and the failure flags of the previous run.
@@ -128,7 +131,7 @@ class OutputChannel {
   // it shows.
   [[nodiscard]] int32_t GraphSerial() const { return graph_serial_; }
 
-  // The grid head of the saved text: the analysis's own, or the code's first one.
+  // The grid head of the saved text: the run's own, or that of the result's labels.
   void SetGridTextHead(const std::string& head);
   [[nodiscard]] std::string GridTextHead() const;
 

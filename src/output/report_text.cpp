@@ -3,7 +3,6 @@
 #include <array>
 
 #include "output/format_mask.h"
-#include "output/table_heads.h"
 
 namespace ovelt {
 namespace {
@@ -30,19 +29,24 @@ std::string RowsAsLines(const OutputGrid& grid, const std::string& separator) {
   return text;
 }
 
-std::string RuledTable(int result_code, const std::string& head, const OutputGrid& grid) {
-  const std::string rule = GridTextRule(result_code);
+std::string RuledTable(const ResultLabels& labels, const std::string& head,
+                       const OutputGrid& grid) {
+  const std::string rule(labels.GridRuleLength, '-');
   std::string text = std::string(kCrLf) + rule + kCrLf + kCrLf;
   if (!head.empty()) text += head + kCrLf;
   text += rule + kCrLf;
-  return text + RowsAsLines(grid, GridCellSeparator(result_code));
+  return text + RowsAsLines(grid, labels.GridCellSeparator);
 }
 
 }  // namespace
 
-std::string DateText(const Platform::DateTime& when) { return Format(when, "dd - mmmm - yyyy"); }
+std::string DateText(const Platform::DateTime& when) {
+  return Format(when, "dd - mmmm - yyyy");
+}
 
-std::string TimeText(const Platform::DateTime& when) { return Format(when, "hh:mm:ss"); }
+std::string TimeText(const Platform::DateTime& when) {
+  return Format(when, "hh:mm:ss");
+}
 
 std::string CommonOpening(const Platform::DateTime& when) {
   const std::string banner = std::string(kProgramBanner) + std::string(kBannerGap, ' ') +
@@ -58,13 +62,13 @@ std::string TitleBlock(const std::string& title, const std::string& body) {
   return text;
 }
 
-std::string GridAsText(int result_code, const std::string& head, const OutputGrid& grid) {
-  return RuledTable(result_code, head, grid);
+std::string GridAsText(const ResultLabels& labels, const std::string& head,
+                       const OutputGrid& grid) {
+  return RuledTable(labels, head, grid);
 }
 
-std::string SecondTableAsText(int result_code, const OutputGrid& grid) {
-  return RuledTable(result_code, JoinCells(grid.ColumnTitles, GridCellSeparator(result_code)),
-                    grid);
+std::string SecondTableAsText(const ResultLabels& labels, const OutputGrid& grid) {
+  return RuledTable(labels, JoinCells(grid.ColumnTitles, labels.GridCellSeparator), grid);
 }
 
 std::string GeneFlowHead(bool with_sequence_measures) {
@@ -96,8 +100,8 @@ std::string GeneFlowHead(bool with_sequence_measures) {
 
 std::string GeneFlowAsText(const GeneFlowTable& table) {
   if (table.Rows.empty()) return "";
-  std::string text = std::string(kGeneFlowRule, '-') + kCrLf +
-                     GeneFlowHead(table.WithSequenceMeasures) + kCrLf;
+  std::string text =
+      std::string(kGeneFlowRule, '-') + kCrLf + GeneFlowHead(table.WithSequenceMeasures) + kCrLf;
   for (const auto& row : table.Rows) {
     std::string line = " ";
     line += Format(row.Population1, kPopulationNameMask);
@@ -117,7 +121,8 @@ std::string SessionSeparator() {
 }
 
 std::string SessionEndLine(const Platform::DateTime& when) {
-  return std::string(" Ovelt Session Terminated on  ") + DateText(when) + "  " + TimeText(when) + kCrLf;
+  return std::string(" Ovelt Session Terminated on  ") + DateText(when) + "  " + TimeText(when) +
+         kCrLf;
 }
 
 }  // namespace ovelt

@@ -5,12 +5,13 @@
 
 #include <string>
 
+#include "core/line_end.h"
 #include "output/output_grid.h"
+#include "output/result_labels.h"
 #include "platform/platform.h"
 
 namespace ovelt {
 
-inline constexpr const char* kCrLf = "\r\n";
 inline constexpr const char* kProgramBanner = " Ovelt  Ver. 4.00.5";
 
 // "05 - March - 2004" and the 24-hour "14:05:09".
@@ -26,11 +27,11 @@ inline constexpr const char* kProgramBanner = " Ovelt  Ver. 4.00.5";
 
 // An empty line, the rule, an empty line, the head (none when empty), the rule, and one line per
 // row with its cells joined by the code's separator.
-[[nodiscard]] std::string GridAsText(int result_code, const std::string& head,
+[[nodiscard]] std::string GridAsText(const ResultLabels& labels, const std::string& head,
                                      const OutputGrid& grid);
 
 // The second table, laid out as the grid, its own column titles standing as the head.
-[[nodiscard]] std::string SecondTableAsText(int result_code, const OutputGrid& grid);
+[[nodiscard]] std::string SecondTableAsText(const ResultLabels& labels, const OutputGrid& grid);
 
 // A rule of 87 "-", the head, one line per pair of populations; "" when the table has no rows.
 [[nodiscard]] std::string GeneFlowAsText(const GeneFlowTable& table);

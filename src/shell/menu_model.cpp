@@ -1,6 +1,6 @@
 #include "shell/menu_model.h"
 
-#include "shell/command_table.h"
+#include "shell/command_registry.h"
 
 namespace ovelt {
 
@@ -19,8 +19,8 @@ MenuModel::MenuModel() {
   add("File", "PageSetup_Click", "Pa&ge Setup...");
   add("File", "printout_Click", "&Print Output...");
   for (int n = 1; n <= 4; ++n)
-    entries_.push_back({"File", "mnuFicheros_Click(" + std::to_string(n) + ")", "", 0, false,
-                        false});
+    entries_.push_back(
+        {"File", "mnuFicheros_Click(" + std::to_string(n) + ")", "", 0, false, false});
   add("File", "salir_Click", "E&xit");
   add("Data", "MenuFormat_Click", "&Format...");
   add("Data", "MenuGapsSW_Click", "Gaps in Sliding &Window...");
@@ -32,8 +32,10 @@ MenuModel::MenuModel() {
   add("Data", "MenuDefinePopulations_Click", "&Define Sequence Sets...");
   add("Data", "MenuActivarPopulations_Click", "Include / &Exclude Populations...");
   add("Data", "MenuIncluirSeqs_Click", "&Include / Exclude Sequences...");
-  for (const CommandRow& row : CommandTable())
-    entries_.push_back({row.menu, row.handler, row.menu_text, row.number, false, true});
+  for (const CommandEntry& entry : Registry()) {
+    const CommandFacts& f = entry.Facts;
+    entries_.push_back({f.Menu, f.Handler, f.MenuText, f.Number(), false, true});
+  }
   add("Display", "grafics_Click", "&Graphs...");
   add("Display", "DataInformacion_Click", "&Data Info");
   add("Display", "verf1_Click", "&View Data ");
@@ -88,8 +90,7 @@ void MenuModel::ActivarMenu(int mode, int16_t file_kind) {
     const std::string& m = entry.menu;
     if (m == "Tools" || m == "Help" || entry.handler == "salir_Click") {
       entry.enabled = true;  // they need no data
-    } else if (entry.handler == "leer_Click" ||
-               entry.handler.rfind("mnuFicheros_Click", 0) == 0 ||
+    } else if (entry.handler == "leer_Click" || entry.handler.rfind("mnuFicheros_Click", 0) == 0 ||
                entry.handler == "MenuConcatenateDataFiles_Click") {
       entry.enabled = !open;  // one file at most is open
     } else if (entry.handler == "MenuUpdateNEXUS_Click") {

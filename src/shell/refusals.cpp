@@ -25,7 +25,9 @@ bool SetHasIncludedSequence(const PoblacionSecuencias& set, const ActiveData& da
 
 }  // namespace
 
-std::string InputFileLine(const ActiveData& data) { return "Input data file: " + data.FilePath; }
+std::string InputFileLine(const ActiveData& data) {
+  return "Input data file: " + data.FilePath;
+}
 
 int SetsWithIncludedSequences(const ActiveData& data, bool only_active) {
   int count = 0;
@@ -37,14 +39,12 @@ int SetsWithIncludedSequences(const ActiveData& data, bool only_active) {
   return count;
 }
 
-int MensajeNoPobsDefined(int16_t analysis, ActiveData& data, Platform& platform) {
+int MensajeNoPobsDefined(const std::string& question, ActiveData& data, Platform& platform) {
   if (data.SetCount() >= 2) return 0;
   std::string text = data.SetCount() == 0 ? "No Sequence Sets (Populations) defined !"
                                           : "Only one Sequence Set (Population) defined !";
-  if (analysis % 1000 == 14) {
-    text +=
-        "\nThe present analysis requires the definition of 2 Sets of Sequences. Each Set must "
-        "include information of each species.\nDo you want to define the Sequences Sets now ?";
+  if (!question.empty()) {
+    text += "\n" + question;
   } else {
     text +=
         "\nThe present analysis requires, at least, the definition of 2 Sets of Sequences. Do "
@@ -92,32 +92,31 @@ int MensajeNoPrefUnPrefTablaDefined(ActiveData& data, Platform& platform) {
   return unassigned() ? 1 : 0;
 }
 
-bool PassesCheck(Check check, const CommandRow& row, ActiveData& data, Platform& platform) {
+bool PassesCheck(Check check, const CommandFacts& facts, ActiveData& data, Platform& platform) {
   const std::string file_line = "\n" + InputFileLine(data);
   switch (check) {
     case Check::kOneSequence: {
       if (data.NumSeqs != 1) return true;
-      std::string first = "Only one sequence in the Data File. Can't compute " + row.title + ".";
-      if (row.number % 1000 == 21)
-        first = "Only one sequence in the Data File. Can't create a file with the polymorphic sites";
-      if (row.number % 1000 == 24)
-        first = "Only one sequence in the Data File. Can't analyze the Ovelt Workbench.";
+      const std::string words = facts.OneSequenceWords.empty()
+                                    ? "Can't compute " + facts.Title + "."
+                                    : facts.OneSequenceWords;
+      const std::string first = "Only one sequence in the Data File. " + words;
       platform.MessageBox(first + file_line, MsgIcon::kWarning);
       return false;
     }
     case Check::kFourSequences:
       if (data.NumSeqs >= 4) return true;
       platform.MessageBox(
-          "Four or more sequences are needed to compute the " + row.title + "." + file_line,
+          "Four or more sequences are needed to compute the " + facts.Title + "." + file_line,
           MsgIcon::kWarning);
       return false;
     case Check::kTwoSequences:
       if (data.NumSeqs != 2) return true;
-      platform.MessageBox("Only two sequences in the Data File. Can't compute " + row.title + ".",
+      platform.MessageBox("Only two sequences in the Data File. Can't compute " + facts.Title + ".",
                           MsgIcon::kWarning);
       return false;
     case Check::kTwoSets:
-      return MensajeNoPobsDefined(row.number, data, platform) == 0;
+      return MensajeNoPobsDefined(facts.TwoSetsQuestion, data, platform) == 0;
     case Check::kOneSet:
       return MensajeNoPobsDefined2(data, platform) == 0;
     case Check::kCodingRegion:

@@ -4,8 +4,8 @@
 
 #include <string>
 
+#include "command/command_facts.h"
 #include "core/active_data.h"
-#include "shell/command_table.h"
 #include "platform/platform.h"
 
 namespace ovelt {
@@ -14,10 +14,11 @@ namespace ovelt {
 [[nodiscard]] std::string InputFileLine(const ActiveData& data);
 
 // True when the check passes (possibly after the user defined what was missing).
-bool PassesCheck(Check check, const CommandRow& row, ActiveData& data, Platform& platform);
+bool PassesCheck(Check check, const CommandFacts& facts, ActiveData& data, Platform& platform);
 
 // The named refusals; each returns 1 when the command must stop, 0 when it may go on.
-int MensajeNoPobsDefined(int16_t analysis, ActiveData& data, Platform& platform);
+// `question`: the command's own words for the question, empty for the usual ones.
+int MensajeNoPobsDefined(const std::string& question, ActiveData& data, Platform& platform);
 int MensajeNoPobsDefined2(ActiveData& data, Platform& platform);
 int MensajeNoCodingRegionDefined(ActiveData& data, Platform& platform);
 int MensajeNoPrefUnPrefTablaDefined(ActiveData& data, Platform& platform);

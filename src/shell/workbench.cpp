@@ -8,13 +8,13 @@
 #include "core/coding_regions.h"
 #include "core/genetic_code_choice.h"
 #include "core/sequence_sets.h"
-#include "shell/command_table.h"
+#include "core/site_scan.h"
+#include "formats/nexus_extras.h"
+#include "formats/read_file.h"
+#include "formats/read_messages.h"
+#include "shell/command_registry.h"
 #include "shell/path_display.h"
 #include "shell/refusals.h"
-#include "core/site_scan.h"
-#include "formats/read_file.h"
-#include "formats/nexus_extras.h"
-#include "formats/read_messages.h"
 
 namespace ovelt {
 
@@ -42,7 +42,9 @@ std::string Workbench::WindowTitle() const {
   return FileOpen() ? "Ovelt Workbench - " + data_.FileName : "Ovelt Workbench";
 }
 
-void Workbench::RefreshTitle() { platform_.SetWindowTitle(WindowTitle()); }
+void Workbench::RefreshTitle() {
+  platform_.SetWindowTitle(WindowTitle());
+}
 
 void Workbench::SetStatus(int flag, const std::string& text) {
   if (flag == 1) {
@@ -63,7 +65,9 @@ void Workbench::RefreshRecentMenu() {
   }
 }
 
-std::string Workbench::FileLines() const { return InputFileLine(data_); }
+std::string Workbench::FileLines() const {
+  return InputFileLine(data_);
+}
 
 std::optional<std::string> Workbench::fbLeerTodo(int index) {
   if (index == 0) return platform_.OpenFileName(kOpenDialogTitle, kOpenDialogFilter);
@@ -87,7 +91,7 @@ bool Workbench::fbLeer1(int index) {
   const std::optional<std::string> path = fbLeerTodo(index);
   if (!path) return false;
   if (!Load(*path)) return false;
-  if (data_.Analysis % 1000 != 32) {
+  if (TitleCode(data_.Analysis) != TitleCode(CommandId::kConcatenate)) {
     recent_.fActualizaCFA(*path, index);
     RefreshRecentMenu();
   }
@@ -96,7 +100,7 @@ bool Workbench::fbLeer1(int index) {
 
 bool Workbench::OpenPath(const std::string& path) {
   if (!Load(path)) return false;
-  if (data_.Analysis % 1000 != 32) {
+  if (TitleCode(data_.Analysis) != TitleCode(CommandId::kConcatenate)) {
     recent_.fActualizaCFA(path, 0);
     RefreshRecentMenu();
   }
@@ -105,7 +109,7 @@ bool Workbench::OpenPath(const std::string& path) {
 
 bool Workbench::Load(const std::string& path) {
   if (FileOpen()) return false;  // the open command is disabled while a file is open
-  if (data_.Analysis % 1000 != 32) data_.Analysis = 0;
+  if (TitleCode(data_.Analysis) != TitleCode(CommandId::kConcatenate)) data_.Analysis = 0;
   output_.ResetOutputs();
   SetStatus(1, "Reading File: " + ftCortarNombre(path, 29) + "...");
 
@@ -194,7 +198,6 @@ void Workbench::CommitLoadedFile(LoadedFile&& file, const std::string& path) {
   RebuildCodingTables(next);
   next.Region.RegionFrom = 1;
   next.Region.RegionTo = next.NumSites;
-  next.SelSites = next.NumSites;
 
   data_ = std::move(next);
   nexus_document_.reset();
@@ -253,11 +256,12 @@ bool Workbench::IncludeSequences(const std::vector<bool>& ticks, int16_t gaps_in
 }
 
 bool Workbench::BeginCommand(int number) {
-  const CommandRow* row = FindCommand(number);
-  const MenuEntry* entry = menus_.FindCommand(row ? row->number : number);
+  const CommandEntry* command = FindEntry(number);
+  const CommandFacts* row = command != nullptr ? &command->Facts : nullptr;
+  const MenuEntry* entry = menus_.FindCommand(row ? row->Number() : number);
   if (row == nullptr || entry == nullptr || !entry->enabled) return false;
-  data_.Analysis = row->number;
-  for (Check check : row->checks) {
+  data_.Analysis = row->Number();
+  for (Check check : row->Checks) {
     if (!PassesCheck(check, *row, data_, platform_)) {
       data_.Analysis = 0;
       return false;

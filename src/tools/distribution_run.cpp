@@ -36,6 +36,7 @@ std::optional<ToolMessage> RunTab(
   channel.RaiseGauge(100);
   channel.AppendText(report(input, result));
   channel.ResultCode = kDistributionsResultCode;
+  channel.Labels.Title = "Discrete Distributions";
   channel.ShowResult(kResultTextOnly);
   channel.SetBusy(false);
   if (result_out != nullptr) *result_out = result;

@@ -28,6 +28,7 @@ std::optional<ToolMessage> RunIndependence(OutputChannel& channel,
   channel.RaiseGauge(100);
   channel.AppendText(IndependenceReportText(table, result));
   channel.ResultCode = kIndependenceResultCode;
+  channel.Labels.Title = "Tests of Independence";
   channel.ShowResult(kResultTextOnly);
   channel.SetBusy(false);
   if (run != nullptr) *run = {table, result};

@@ -3,10 +3,12 @@
 // classes over all sequences, included layer sharing the file's cells, diversities, coding
 // tables at their defaults, region 1..NumSites.
 
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "core/active_data.h"
+#include "core/selection.h"
 #include "core/coding_regions.h"
 #include "core/sequence_sets.h"
 #include "core/site_scan.h"
@@ -44,8 +46,24 @@ inline ActiveData MakeAlignment(const std::vector<std::string>& rows,
   ComputeSiteDiversity(ad);
   RebuildCodingTables(ad);
   ad.Region = {1, ad.NumSites};
-  ad.SelSites = ad.NumSites;
   return ad;
+}
+
+// A selection that keeps alive the data it was made from, so that a test can hold it alone.
+struct OwnedSelection : Selection {
+  std::shared_ptr<const ActiveData> Owner;
+};
+
+// The selection of `set` (0: all included sequences) of `data` over `region` (default: all
+// sites), the data kept with it.
+inline OwnedSelection SelectedFrom(ActiveData data, int16_t set = 0,
+                                   RegionSelection region = {1, 0}) {
+  auto owner = std::make_shared<const ActiveData>(std::move(data));
+  if (region.RegionTo == 0) region.RegionTo = owner->NumSites;
+  OwnedSelection selected;
+  static_cast<Selection&>(selected) = SelectOneSet(*owner, set, region);
+  selected.Owner = owner;
+  return selected;
 }
 
 // Appends an active set with the given file sequence numbers.

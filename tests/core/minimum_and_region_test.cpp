@@ -6,32 +6,6 @@
 namespace ovelt {
 namespace {
 
-TEST(MinimumSequences, TableOfCommands) {
-  EXPECT_EQ(MinimumSequences(1, 0), 0);
-  for (const int16_t command : {2, 4, 7, 8, 15, 21, 24, 30}) {
-    EXPECT_EQ(MinimumSequences(command, 1), 2) << command;
-    EXPECT_EQ(MinimumSequences(command, 2), 0) << command;
-  }
-  for (const int16_t command : {5, 11}) {
-    EXPECT_EQ(MinimumSequences(command, 3), 4) << command;
-    EXPECT_EQ(MinimumSequences(command, 4), 0) << command;
-  }
-  for (const int16_t command : {22, 23, 25, 26, 27}) {
-    EXPECT_EQ(MinimumSequences(command, 0), 1) << command;
-    EXPECT_EQ(MinimumSequences(command, 1), 0) << command;
-  }
-  // Two-set commands are looked up modulo 1000; 1026 is command 26.
-  EXPECT_EQ(MinimumSequences(1026, 0), 1);
-  EXPECT_EQ(MinimumSequences(1003, 0), 0);
-}
-
-TEST(MinimumSequences, OneSequenceFileIsRefusedByAnalysesThatNeedMore) {
-  EXPECT_EQ(MinimumSequences(2, 1), 2);
-  EXPECT_EQ(MinimumSequences(5, 1), 4);
-  EXPECT_EQ(MinimumSequences(1, 1), 0);
-  EXPECT_EQ(MinimumSequences(22, 1), 0);
-}
-
 TEST(MinimumSequences, Messages) {
   EXPECT_EQ(TooFewSequencesMessage(2),
             "At least 2 sequences are needed for the present analysis\n\nInvalid Selection !");

@@ -14,17 +14,20 @@ TEST(NetSites, HandWorkedRegion) {
   // 5 ACGT (4, h 1), 6 A-AA (5), 7 ???? (5), 8 ---- (5).
   // h of ACGG: (1 - (1/16 + 1/16 + 4/16)) * 4/3 = 10/16 * 4/3 = 5/6.
   ActiveData ad = MakeAlignment({"AAAAAA?-", "AAACC-?-", "AACGGA?-", "ATCGTA?-"});
-  SelectOneSet(ad, 0);
-  const int32_t net = NetSites(ad, 1, 8);
-  EXPECT_EQ(net, 5);
-  EXPECT_EQ(ad.SegSites, 4);
-  EXPECT_DOUBLE_EQ(ad.SumSiteDiversity, 0.5 + 2.0 / 3.0 + 5.0 / 6.0 + 1.0);
-  EXPECT_EQ(ExtraMutations(ad, 1, 8), 1 + 2);
-  EXPECT_EQ(ExtraMutations(ad, 1, 4), 1);
+  Selection sel = SelectOneSet(ad, 0, ad.Region);
+  const NetSiteCount whole = CountNetSites(sel, 1, 8);
+  EXPECT_EQ(whole.Net, 5);
+  EXPECT_EQ(NetSites(sel, 1, 8), 5);
+  EXPECT_EQ(whole.SegSites, 4);
+  EXPECT_DOUBLE_EQ(whole.SumSiteDiversity, 0.5 + 2.0 / 3.0 + 5.0 / 6.0 + 1.0);
+  EXPECT_EQ(ExtraMutations(sel, 1, 8), 1 + 2);
+  EXPECT_EQ(ExtraMutations(sel, 1, 4), 1);
   // Sub-region 2..3.
-  EXPECT_EQ(NetSites(ad, 2, 3), 2);
-  EXPECT_EQ(ad.SegSites, 2);
-  EXPECT_DOUBLE_EQ(ad.SumSiteDiversity, 0.5 + 2.0 / 3.0);
+  const NetSiteCount part = CountNetSites(sel, 2, 3);
+  EXPECT_EQ(part.Net, 2);
+  EXPECT_EQ(NetSites(sel, 2, 3), 2);
+  EXPECT_EQ(part.SegSites, 2);
+  EXPECT_DOUBLE_EQ(part.SumSiteDiversity, 0.5 + 2.0 / 3.0);
 }
 
 TEST(NetSites, AllGapSiteNeverEntersAStatistic) {
@@ -32,20 +35,21 @@ TEST(NetSites, AllGapSiteNeverEntersAStatistic) {
   ActiveData ad = MakeAlignment({"A-T", "C-T", "A?T"});
   ASSERT_FALSE(ad.GapsInWindow);
   ASSERT_EQ(ad.GapsInSets, 1);
-  SelectOneSet(ad, 0);
-  EXPECT_EQ(NetSites(ad, 1, 3), 2);
-  EXPECT_EQ(ad.SegSites, 1);
-  EXPECT_DOUBLE_EQ(ad.SumSiteDiversity, 2.0 / 3.0);  // site 1 ACA only
+  Selection sel = SelectOneSet(ad, 0, ad.Region);
+  const NetSiteCount count = CountNetSites(sel, 1, 3);
+  EXPECT_EQ(count.Net, 2);
+  EXPECT_EQ(count.SegSites, 1);
+  EXPECT_DOUBLE_EQ(count.SumSiteDiversity, 2.0 / 3.0);  // site 1 ACA only
 }
 
 TEST(NetSites, RegionOfOnlyGapSitesHasNoNetSiteAndZeroDiversity) {
   ActiveData ad = MakeAlignment({"A-?T", "C--T", "AT?T"});
-  SelectOneSet(ad, 0);
-  const int32_t net = NetSites(ad, 2, 3);
-  EXPECT_EQ(net, 0);
-  EXPECT_EQ(ad.SegSites, 0);
-  EXPECT_DOUBLE_EQ(ad.SumSiteDiversity, 0.0);
-  EXPECT_DOUBLE_EQ(DiversityPerSite(ad.SumSiteDiversity, net), 0.0);
+  Selection sel = SelectOneSet(ad, 0, ad.Region);
+  const NetSiteCount count = CountNetSites(sel, 2, 3);
+  EXPECT_EQ(count.Net, 0);
+  EXPECT_EQ(count.SegSites, 0);
+  EXPECT_DOUBLE_EQ(count.SumSiteDiversity, 0.0);
+  EXPECT_DOUBLE_EQ(DiversityPerSite(count.SumSiteDiversity, count.Net), 0.0);
 }
 
 TEST(NetSites, DiversityPerSiteDividesByNetSites) {
@@ -57,20 +61,23 @@ TEST(NetSites, FixedGapsCountSitesWithoutAnyNucleotide) {
   // 1 all "-" (stored count 3 = SelCount1), 2 "-?-" (walked), 3 "-A-" (a nucleotide),
   // 4 "???" (walked), 5 normal.
   ActiveData ad = MakeAlignment({"---?A", "-?A?C", "---?A"});
-  SelectOneSet(ad, 0);
-  EXPECT_DOUBLE_EQ(ad.SelSiteDiversity1[1], 3.0);
-  ad.Region = {1, 5};
-  EXPECT_EQ(FixedGaps(ad), 3);
-  ad.Region = {3, 5};
-  EXPECT_EQ(FixedGaps(ad), 1);
+  Selection sel = SelectOneSet(ad, 0, ad.Region);
+  EXPECT_DOUBLE_EQ(sel.SelSiteDiversity1[1], 3.0);
+  sel.Region = {1, 5};
+  EXPECT_EQ(FixedGaps(sel), 3);
+  sel.Region = {3, 5};
+  EXPECT_EQ(FixedGaps(sel), 1);
+  // The region the selection was made over counts, not the one the data keeps.
+  const Selection part = SelectOneSet(ad, 0, {3, 5});
+  EXPECT_EQ(FixedGaps(part), 1);
 }
 
 TEST(NetSites, FixedGapsWithinTheSelection) {
   // Site 1 has a nucleotide only in sequence 3, outside the set.
   ActiveData ad = MakeAlignment({"-A", "?A", "TA"});
   test::AddSet(ad, "Gapped", {1, 2});
-  SelectOneSet(ad, 1);
-  EXPECT_EQ(FixedGaps(ad), 1);
+  Selection sel = SelectOneSet(ad, 1, ad.Region);
+  EXPECT_EQ(FixedGaps(sel), 1);
 }
 
 }  // namespace

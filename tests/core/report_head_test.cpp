@@ -26,9 +26,9 @@ TEST(CompactNumberList, RunsAndSingles) {
 
 TEST(ReportHead, AllSequencesWithoutASet) {
   ActiveData ad = MakeAlignment({"ACGT", "ACGA", "ACGA"});
-  SelectOneSet(ad, 0);
-  const int32_t net = NetSites(ad, 1, 4);
-  EXPECT_EQ(ReportHead(ad, net),
+  Selection sel = SelectOneSet(ad, 0, ad.Region);
+  const int32_t net = NetSites(sel, 1, 4);
+  EXPECT_EQ(ReportHead(sel, net),
             "\r\n" + kPath +
                 " Number of sequences: 3    Number of sequences used: 3\r\n"
                 " Selected region: 1-4   Number of sites: 4\r\n"
@@ -38,9 +38,9 @@ TEST(ReportHead, AllSequencesWithoutASet) {
 TEST(ReportHead, FewerThanTenUsedAreListedByName) {
   ActiveData ad = MakeAlignment(Rows(5, "ACGT"), {"alpha", "beta", "gamma", "delta", "epsilon"});
   ASSERT_FALSE(IncludeSequences(ad, test::TicksWithout(ad, {2}), 1).has_value());
-  SelectOneSet(ad, 0);
-  ad.Region = {2, 3};
-  EXPECT_EQ(ReportHead(ad, 2),
+  // The head gives the region of the selection.
+  Selection sel = SelectOneSet(ad, 0, {2, 3});
+  EXPECT_EQ(ReportHead(sel, 2),
             "\r\n" + kPath +
                 " Number of sequences: 5    Number of sequences used: 4\r\n"
                 "    Sequences used: \r\n"
@@ -55,8 +55,8 @@ TEST(ReportHead, FewerThanTenUsedAreListedByName) {
 TEST(ReportHead, TenOrMoreUsedAreListedAsRanges) {
   ActiveData ad = MakeAlignment(Rows(12, "ACGT"));
   ASSERT_FALSE(IncludeSequences(ad, test::TicksWithout(ad, {4, 6}), 1).has_value());
-  SelectOneSet(ad, 0);
-  EXPECT_EQ(ReportHead(ad, 4),
+  Selection sel = SelectOneSet(ad, 0, ad.Region);
+  EXPECT_EQ(ReportHead(sel, 4),
             "\r\n" + kPath +
                 " Number of sequences: 12    Number of sequences used: 10\r\n"
                 "    Sequences used: 1-3 5 7-12\r\n"
@@ -68,8 +68,8 @@ TEST(ReportHead, SetWithAnExcludedSequenceSaysHowManyAreUsed) {
   ActiveData ad = MakeAlignment(Rows(4, "ACGT"), {"one", "two", "three", "four"});
   test::AddSet(ad, "Pop1", {1, 2, 3});
   ASSERT_FALSE(IncludeSequences(ad, test::TicksWithout(ad, {2}), 1).has_value());
-  SelectOneSet(ad, 1);
-  EXPECT_EQ(ReportHead(ad, 4),
+  Selection sel = SelectOneSet(ad, 1, ad.Region);
+  EXPECT_EQ(ReportHead(sel, 4),
             "\r\n" + kPath +
                 " Population used: Pop1\r\n"
                 "    Number of sequences used: 2\r\n"
@@ -83,8 +83,8 @@ TEST(ReportHead, SetWithAnExcludedSequenceSaysHowManyAreUsed) {
 TEST(ReportHead, SetFullyUsedListsNoSequence) {
   ActiveData ad = MakeAlignment(Rows(4, "ACGT"));
   test::AddSet(ad, "Pop1", {1, 2});
-  SelectOneSet(ad, 1);
-  EXPECT_EQ(ReportHead(ad, 4),
+  Selection sel = SelectOneSet(ad, 1, ad.Region);
+  EXPECT_EQ(ReportHead(sel, 4),
             "\r\n" + kPath +
                 " Population used: Pop1\r\n"
                 "    Number of sequences used: 2\r\n"
@@ -96,29 +96,28 @@ TEST(ReportHead, LargeSetListsFileNumbers) {
   ActiveData ad = MakeAlignment(Rows(14, "ACGT"));
   test::AddSet(ad, "Big", {14, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
   ASSERT_FALSE(IncludeSequences(ad, test::TicksWithout(ad, {5}), 1).has_value());
-  SelectOneSet(ad, 1);
-  ASSERT_EQ(ad.SelCount1, 10);
-  EXPECT_NE(ReportHead(ad, 4).find("    Sequences used: 14 1-4 6-10\r\n"), std::string::npos);
+  Selection sel = SelectOneSet(ad, 1, ad.Region);
+  ASSERT_EQ(sel.SelCount1, 10);
+  EXPECT_NE(ReportHead(sel, 4).find("    Sequences used: 14 1-4 6-10\r\n"), std::string::npos);
 }
 
 TEST(ReportHead, GapsInSets2AndFixedGapsOfPolymorphicSites) {
   // Site 2 is all gaps (a fixed gap), site 3 has a gap in one sequence.
   ActiveData ad = MakeAlignment({"A-CT", "A-GT", "A--T"});
   ad.GapsInSets = 2;
-  ad.Analysis = 1;
-  SelectOneSet(ad, 0);
-  const int32_t net = NetSites(ad, 1, 4);
+  Selection sel = SelectOneSet(ad, 0, ad.Region);
+  const int32_t net = NetSites(sel, 1, 4);
   ASSERT_EQ(net, 2);
-  EXPECT_EQ(ReportHead(ad, net),
+  // The polymorphic-sites report asks for the sites without the fixed gaps.
+  EXPECT_EQ(ReportHead(sel, net, true),
             "\r\n" + kPath +
                 " Number of sequences: 3    Number of sequences used: 3\r\n"
                 " Selected region: 1-4   Number of sites: 4\r\n"
                 "    Sites with gaps in the complete data file were excluded\r\n"
                 "    Number of sites (excluding fixed gaps / missing data): 3\r\n"
                 " Total number of sites (excluding sites with gaps / missing data): 2\r\n");
-  // Only the polymorphic-sites command reports the fixed gaps.
-  ad.Analysis = 2;
-  EXPECT_EQ(ReportHead(ad, net).find("fixed gaps"), std::string::npos);
+  // The other reports give no count of fixed gaps.
+  EXPECT_EQ(ReportHead(sel, net).find("fixed gaps"), std::string::npos);
 }
 
 TEST(ReportHead, TruncatedEqualNamesStayEqual) {
@@ -128,9 +127,9 @@ TEST(ReportHead, TruncatedEqualNamesStayEqual) {
   EXPECT_EQ(ad.RawNames[1], "Drosophila_simulans_");
   EXPECT_EQ(ad.RawNames[1], ad.RawNames[2]);
   ASSERT_FALSE(IncludeSequences(ad, test::TicksWithout(ad, {3}), 1).has_value());
-  SelectOneSet(ad, 0);
+  Selection sel = SelectOneSet(ad, 0, ad.Region);
   EXPECT_NE(
-      ReportHead(ad, 2).find("       Drosophila_simulans_\r\n       Drosophila_simulans_\r\n"),
+      ReportHead(sel, 2).find("       Drosophila_simulans_\r\n       Drosophila_simulans_\r\n"),
       std::string::npos);
 }
 

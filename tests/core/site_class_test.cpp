@@ -109,7 +109,7 @@ TEST(SiteClass, SelectionClassesMatchABruteForceClassifier) {
         if (rng() % 2 == 0) members.push_back(seq);
       }
       test::AddSet(ad, "Sub", members);
-      SelectOneSet(ad, 1);
+      Selection sel = SelectOneSet(ad, 1, ad.Region);
       std::vector<int> all;
       for (int seq = 1; seq <= seqs; ++seq) all.push_back(seq);
       for (int site = 1; site <= ad.NumSites; ++site) {
@@ -118,7 +118,7 @@ TEST(SiteClass, SelectionClassesMatchABruteForceClassifier) {
         const int16_t expected = gaps_in_sets == 2 && BruteForceClass(rows, all, s) == 5
                                      ? int16_t{5}
                                      : BruteForceClass(rows, members, s);
-        ASSERT_EQ(ad.SelSiteClass1[static_cast<size_t>(site)], expected)
+        ASSERT_EQ(sel.SelSiteClass1[static_cast<size_t>(site)], expected)
             << "round " << round << " site " << site << " GapsInSets " << gaps_in_sets;
       }
     }
@@ -129,10 +129,10 @@ TEST(SiteClass, GapOutsideTheSubsetCountsAsANormalSiteWithGapsInSets1) {
   // Site 1: the gap lies in sequence 3, outside the set {1, 2}; the set sees A and T.
   ActiveData ad = MakeAlignment({"AA", "TA", "-A"});
   test::AddSet(ad, "Pair", {1, 2});
-  SelectOneSet(ad, 1);
+  Selection sel = SelectOneSet(ad, 1, ad.Region);
   EXPECT_EQ(ad.SiteClass[1], kGapOrMissing);
-  EXPECT_EQ(ad.SelSiteClass1[1], kSingletonSite);
-  EXPECT_EQ(ad.SelSiteClass1[2], kMonomorphic);
+  EXPECT_EQ(sel.SelSiteClass1[1], kSingletonSite);
+  EXPECT_EQ(sel.SelSiteClass1[2], kMonomorphic);
 }
 
 TEST(SiteClass, GapsInSets2HoldsClass5InEverySubset) {
@@ -141,30 +141,30 @@ TEST(SiteClass, GapsInSets2HoldsClass5InEverySubset) {
   test::AddSet(ad, "Clean", {1, 2});    // no gap of its own at sites 1 and 3
   test::AddSet(ad, "Single", {2});
   for (const int16_t set : {1, 2}) {
-    SelectOneSet(ad, set);
-    EXPECT_EQ(ad.SelSiteClass1[1], kGapOrMissing) << "set " << set;
-    EXPECT_EQ(ad.SelSiteClass1[2], kMonomorphic) << "set " << set;
-    EXPECT_EQ(ad.SelSiteClass1[3], kGapOrMissing) << "set " << set;
+    Selection sel = SelectOneSet(ad, set, ad.Region);
+    EXPECT_EQ(sel.SelSiteClass1[1], kGapOrMissing) << "set " << set;
+    EXPECT_EQ(sel.SelSiteClass1[2], kMonomorphic) << "set " << set;
+    EXPECT_EQ(sel.SelSiteClass1[3], kGapOrMissing) << "set " << set;
   }
 }
 
 TEST(SiteClass, MonomorphicSubsetOfAPolymorphicSiteIsClass0) {
   ActiveData ad = MakeAlignment({"A", "A", "T"});
   test::AddSet(ad, "Same", {1, 2});
-  SelectOneSet(ad, 1);
+  Selection sel = SelectOneSet(ad, 1, ad.Region);
   EXPECT_EQ(ad.SiteClass[1], kSingletonSite);
-  EXPECT_EQ(ad.SelSiteClass1[1], kMonomorphic);
+  EXPECT_EQ(sel.SelSiteClass1[1], kMonomorphic);
 }
 
 TEST(SiteClass, SecondSelectionIsClassifiedFromItsOwnSequences) {
   ActiveData ad = MakeAlignment({"AG", "AG", "TG", "TC"});
   test::AddSet(ad, "First", {1, 2});
   test::AddSet(ad, "Second", {3, 4});
-  SelectTwoSets(ad, 1, 2);
-  ClassifySelection1(ad);
-  ClassifySelection2(ad);
-  EXPECT_EQ(ad.SelSiteClass1, (std::vector<int16_t>{0, kMonomorphic, kMonomorphic}));
-  EXPECT_EQ(ad.SelSiteClass2, (std::vector<int16_t>{0, kMonomorphic, kSingletonSite}));
+  Selection sel = SelectTwoSets(ad, 1, 2, ad.Region);
+  ClassifyFirst(sel);
+  ClassifySecond(sel);
+  EXPECT_EQ(sel.SelSiteClass1, (std::vector<int16_t>{0, kMonomorphic, kMonomorphic}));
+  EXPECT_EQ(sel.SelSiteClass2, (std::vector<int16_t>{0, kMonomorphic, kSingletonSite}));
 }
 
 }  // namespace

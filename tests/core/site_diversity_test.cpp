@@ -63,12 +63,12 @@ TEST(SiteDiversity, SelectionDiversityEqualsMeanPairwiseDifferencesOfTheSet) {
     ActiveData ad = MakeAlignment(rows);
     std::vector<int> members{2, 3, 5, 7, 10};
     test::AddSet(ad, "Five", members);
-    SelectOneSet(ad, 1);
+    Selection sel = SelectOneSet(ad, 1, ad.Region);
     std::vector<std::string> set_rows;
     for (const int seq : members) set_rows.push_back(rows[static_cast<size_t>(seq - 1)]);
     double sum = 0.0;
     for (int site = 1; site <= ad.NumSites; ++site)
-      sum += ad.SelSiteDiversity1[static_cast<size_t>(site)];
+      sum += sel.SelSiteDiversity1[static_cast<size_t>(site)];
     EXPECT_NEAR(sum, MeanPairwiseDifferences(set_rows), 1e-9) << "round " << round;
   }
 }
@@ -77,12 +77,11 @@ TEST(SiteDiversity, SecondSelection) {
   ActiveData ad = MakeAlignment({"AG", "AG", "TG", "TC"});
   test::AddSet(ad, "First", {1, 2});
   test::AddSet(ad, "Second", {3, 4});
-  SelectTwoSets(ad, 1, 2);
-  ClassifySelection2(ad);
-  DiversitySelection2(ad);
+  Selection sel = SelectTwoSets(ad, 1, 2, ad.Region);
+  ClassifySecond(sel);
   // Second selection: site 1 TT monomorphic, site 2 GC: (1 - 1/2) * 2 = 1.
-  EXPECT_DOUBLE_EQ(ad.SelSiteDiversity2[1], 0.0);
-  EXPECT_DOUBLE_EQ(ad.SelSiteDiversity2[2], 1.0);
+  EXPECT_DOUBLE_EQ(sel.SelSiteDiversity2[1], 0.0);
+  EXPECT_DOUBLE_EQ(sel.SelSiteDiversity2[2], 1.0);
 }
 
 }  // namespace

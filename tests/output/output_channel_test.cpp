@@ -35,6 +35,9 @@ TEST(OutputChannel, ResetOutputsEmptiesEverythingOfTheLastRun) {
   channel.GeneFlow.Rows = {{"a", "b", {"0.1"}}};
   channel.SetGridTextHead("custom");
   channel.ResultCode = 4;
+  channel.Labels.Title = "Linkage Disequilibrium";
+  channel.Labels.GridTextHead = "Site1  Site2   Dist     D       D'      R";
+  channel.Used = {"North", 3, "South", 2};
   channel.ShowResult(kResultTextAndGrid);
   channel.ShowResult(kResultAddGraph);
   channel.RunFailed = 1;
@@ -54,7 +57,13 @@ TEST(OutputChannel, ResetOutputsEmptiesEverythingOfTheLastRun) {
   EXPECT_FALSE(channel.Windows().Text || channel.Windows().Grid || channel.Windows().Graph);
   EXPECT_EQ(channel.Commands().SaveCaption, "Save Current Output...");
   EXPECT_FALSE(channel.Commands().SaveEnabled);
-  // The head falls back to the code's own.
+  // The labels and sequences of the last result go with it.
+  EXPECT_EQ(channel.Labels.Title, "");
+  EXPECT_EQ(channel.GridTextHead(), "");
+  EXPECT_EQ(channel.Used.FirstSet, "");
+  EXPECT_EQ(channel.Used.FirstCount, 0);
+  // The run's own head is gone: the head falls back to that of the labels of the next result.
+  channel.Labels.GridTextHead = "Site1  Site2   Dist     D       D'      R";
   EXPECT_EQ(channel.GridTextHead(), "Site1  Site2   Dist     D       D'      R");
 }
 

@@ -34,37 +34,54 @@ TEST(ReportText, TitleBlockRuleMatchesTheTitleLine) {
   EXPECT_EQ(TitleBlock("Gene Flow", "text"), "Gene Flow \r\n ---------\r\ntext\r\n");
 }
 
+// The labels of a result whose grid joins its cells with `separator` between rules of `rule`.
+ResultLabels GridLabels(const std::string& separator = "  ", size_t rule = 74) {
+  ResultLabels labels;
+  labels.GridCellSeparator = separator;
+  labels.GridRuleLength = rule;
+  return labels;
+}
+
+TEST(ReportText, LabelsDefaultToTwoBlanksAndTheShortRule) {
+  const ResultLabels labels;
+  EXPECT_EQ(labels.GridCellSeparator, "  ");
+  EXPECT_EQ(labels.GridRuleLength, 74u);
+}
+
 TEST(ReportText, GridAsTextJoinsCellsWithTwoBlanks) {
   OutputGrid grid;
   grid.Rows = {{"1", "25", "0.01000"}, {"2", "75", "0.02000"}};
-  EXPECT_EQ(GridAsText(2, "HEAD", grid), "\r\n" + kRule74 + "\r\n\r\nHEAD\r\n" + kRule74 +
-                                             "\r\n1  25  0.01000\r\n2  75  0.02000\r\n");
+  EXPECT_EQ(
+      GridAsText(ResultLabels{}, "HEAD", grid),
+      "\r\n" + kRule74 + "\r\n\r\nHEAD\r\n" + kRule74 + "\r\n1  25  0.01000\r\n2  75  0.02000\r\n");
 }
 
 TEST(ReportText, GridAsTextWithoutHead) {
   OutputGrid grid;
   grid.Rows = {{"a", "b"}};
-  EXPECT_EQ(GridAsText(7, "", grid), "\r\n" + kRule74 + "\r\n\r\n" + kRule74 + "\r\na  b\r\n");
+  EXPECT_EQ(GridAsText(GridLabels(), "", grid),
+            "\r\n" + kRule74 + "\r\n\r\n" + kRule74 + "\r\na  b\r\n");
 }
 
 TEST(ReportText, FunctionalRegionsJoinWithOneBlank) {
   OutputGrid grid;
   grid.Rows = {{"Exon", "120", "0.00100"}};
-  EXPECT_EQ(GridAsText(17, "H", grid),
+  EXPECT_EQ(GridAsText(GridLabels(" "), "H", grid),
             "\r\n" + kRule74 + "\r\n\r\nH\r\n" + kRule74 + "\r\nExon 120 0.00100\r\n");
 }
 
 TEST(ReportText, CodonUsageRuleIsLonger) {
   OutputGrid grid;
   const std::string rule82 = kRule74 + "--------";
-  EXPECT_EQ(GridAsText(23, "H", grid), "\r\n" + rule82 + "\r\n\r\nH\r\n" + rule82 + "\r\n");
+  EXPECT_EQ(GridAsText(GridLabels("  ", 82), "H", grid),
+            "\r\n" + rule82 + "\r\n\r\nH\r\n" + rule82 + "\r\n");
 }
 
 TEST(ReportText, SecondTableUsesItsColumnTitles) {
   OutputGrid grid;
   grid.ColumnTitles = {"Region", "Sites"};
   grid.Rows = {{"Intron", "40.00"}};
-  EXPECT_EQ(SecondTableAsText(17, grid),
+  EXPECT_EQ(SecondTableAsText(GridLabels(" "), grid),
             "\r\n" + kRule74 + "\r\n\r\nRegion Sites\r\n" + kRule74 + "\r\nIntron 40.00\r\n");
 }
 

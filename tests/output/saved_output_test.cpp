@@ -29,6 +29,16 @@ const std::string kSeparator =
     "<<<<<<<<<<<<<<<<<<<<<<<<<<<<<<<<<<<<<<>>>>>>>>>>>>>>>>>>>>>>>>>>>>>>>>>>>>>>\r\n\r\n";
 const std::string kEndLine = " Ovelt Session Terminated on  05 - March - 2004  14:05:09\r\n";
 
+// The labels a command gives its result, as the runner hands them to the channel.
+ResultLabels Labelled(const std::string& title, const std::string& grid_head = "",
+                      const std::string& separator = "  ") {
+  ResultLabels labels;
+  labels.Title = title;
+  labels.GridTextHead = grid_head;
+  labels.GridCellSeparator = separator;
+  return labels;
+}
+
 // A sliding-window polymorphism run: text, a grid of two windows, kind 51.
 void RunPolymorphism(OutputChannel& channel) {
   channel.ResetOutputs();
@@ -38,6 +48,7 @@ void RunPolymorphism(OutputChannel& channel) {
                         {"2", "150", "0.02000", "0.01800", "5"}};
   channel.RaiseGauge(100);
   channel.ResultCode = 2;
+  channel.Labels = Labelled("DNA Polymorphism", "     Window  Midpoint  Pi     Theta      S");
   channel.ShowResult(kResultTextAndGrid);
   channel.SetBusy(false);
 }
@@ -47,6 +58,7 @@ void RunTajima(OutputChannel& channel) {
   channel.ResetOutputs();
   channel.AppendText(" Tajima's D: 1.23400\r\n");
   channel.ResultCode = 5;
+  channel.Labels = Labelled("Tajima's Test", "     Window Midpoint  D     Sign");
   channel.ShowResult(kResultTextOnly);
 }
 
@@ -106,6 +118,7 @@ TEST(SavedOutput, AnalysisHeadReplacesTheFirstVariant) {
   channel.ResetOutputs();
   channel.Grid1.Rows = {{"12", "40", "28", "0.1000", "1.0000", "0.2500", "0.0500"}};
   channel.ResultCode = 4;
+  channel.Labels = Labelled("Linkage Disequilibrium", "Site1  Site2   Dist     D       D'      R");
   channel.SetGridTextHead("Site1  Site2   Dist     D       D'      R    Fisher");
   channel.ShowResult(kResultGridOnly);
   const std::string path = dir.File("ld.out");
@@ -132,6 +145,7 @@ TEST(SavedOutput, HeadBlockStandsForTheTextWhenOnlyTablesAreShown) {
   channel.Grid2.ColumnTitles = {"Region", "Sites"};
   channel.Grid2.Rows = {{"Exon", "120.00"}};
   channel.ResultCode = 17;
+  channel.Labels = Labelled("Pol. and Divergence in Functional Regions", "", " ");
   channel.ShowResult(kResultSecondGrid);
   const std::string path = dir.File("regions.out");
   ASSERT_TRUE(channel.SaveCurrentOutput(path));
@@ -158,6 +172,7 @@ TEST(SavedOutput, GeneFlowTableFollowsTheText) {
   channel.GeneFlow.WithSequenceMeasures = false;
   channel.GeneFlow.Rows = {{"Pop A", "Pop B", {"0.50000", "2.00000"}}};
   channel.ResultCode = 28;
+  channel.Labels = Labelled("Gene Flow and Genetic Differentiation");
   channel.ShowResult(kResultTextOnly);
   const std::string path = dir.File("flow.out");
   ASSERT_TRUE(channel.SaveCurrentOutput(path));

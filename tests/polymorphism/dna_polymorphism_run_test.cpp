@@ -1,29 +1,31 @@
-#include "analyses/polymorphism/diversity/dna_polymorphism_run.h"
-
 #include <gtest/gtest.h>
 
-#include <sstream>
+#include <algorithm>
 
+#include "analyses/polymorphism/diversity/dna_polymorphism.h"
+#include "analyses/polymorphism/diversity/dna_polymorphism_json.h"
+#include "analyses/polymorphism/diversity/dna_polymorphism_options.h"
+#include "analyses/polymorphism/diversity/dna_polymorphism_report.h"
+#include "core/report_head.h"
 #include "core/site_scan.h"
 #include "poly_fixture.h"
-#include "support/scripted_platform.h"
+#include "run_fixture.h"
 
 namespace ovelt {
 namespace {
 
-struct Bench {
-  explicit Bench(const std::vector<std::string>& rows) : ad(test::MakeAlignment(rows)) {}
-  bool Run(const DnaPolOptions& options) {
-    return RunDnaPolymorphism(ad, channel, platform, options, &run);
+struct Bench : test::RunBench {
+  using RunBench::RunBench;
+  bool Run(const DnaPolOptions& options, bool want_json = false) {
+    return RunBench::Run(CommandId::kDnaPolymorphism, options, want_json);
   }
-  // The report after its head.
-  std::string Body() const {
-    return channel.TextBuffer.substr(channel.HeaderBlock.size());
+  // The result the run must show, computed straight on the selection of the options.
+  [[nodiscard]] DnaPolResult Result(const DnaPolOptions& options) const {
+    const int32_t to = options.RegionTo == 0 ? ad.NumSites : options.RegionTo;
+    const Selection sel = SelectOneSet(ad, options.SelSet1, {options.RegionFrom, to});
+    return ComputeDnaPolymorphism(sel, options.RegionFrom, to, options,
+                                  DnaPolWindow(options, ad.NumSites, ad.GapsInWindow));
   }
-  testing::ScriptedPlatform platform;
-  ActiveData ad;
-  OutputChannel channel{platform};
-  DnaPolRun run;
 };
 
 DnaPolOptions Whole() {
@@ -44,7 +46,7 @@ TEST(DnaPolymorphismRun, TheFullReportOfTheHandWorkedAlignment) {
   DnaPolOptions o = Whole();
   o.ComputeVarPi = o.ComputeJC = true;
   ASSERT_TRUE(b.Run(o));
-  EXPECT_EQ(b.channel.HeaderBlock, ReportHead(b.ad, 8));
+  EXPECT_EQ(b.channel.HeaderBlock, ReportHead(SelectOneSet(b.ad, 0, {1, 9}), 8));
   EXPECT_EQ(b.channel.TextBuffer.substr(0, b.channel.HeaderBlock.size()), b.channel.HeaderBlock);
   // Numbers worked in poly_stats_test, haplotypes_test, pi_variance_test, theta_variances_test:
   // Vn / 64 = 2.2901205 / 64 = 0.0357831 (SD 0.18916), Vf / 64 = 0.018 (SD 0.13416);
@@ -88,10 +90,11 @@ TEST(DnaPolymorphismRun, TheFullReportOfTheHandWorkedAlignment) {
                           "    Variance of theta (no recombination): 2.290",
                           "    Variance of theta (free recombination): 1.152",
                       }));
+  EXPECT_EQ(b.Body(), DnaPolReportBody(b.Result(o), b.ad.GapsInSets));
   EXPECT_EQ(b.channel.ResultCode, 2);
   EXPECT_EQ(b.channel.TextShown, 1);
   EXPECT_EQ(b.channel.GridShown, 0);
-  EXPECT_EQ(b.run.Graph.GraphKind, 0);
+  EXPECT_EQ(b.channel.Graph().GraphKind, 0);
   EXPECT_EQ(b.channel.ReopenDialog, 0);
   EXPECT_EQ(b.channel.RunFailed, 0);
 }
@@ -118,13 +121,14 @@ TEST(DnaPolymorphismRun, OnlyGapSitesEndTheReportAfterPi) {
   DnaPolOptions o = Whole();
   o.ComputeVarPi = o.ComputeJC = true;
   ASSERT_TRUE(b.Run(o));
-  EXPECT_EQ(b.run.Result.Stats.NetSites, 0);
+  const DnaPolResult result = b.Result(o);
+  EXPECT_EQ(result.Stats.NetSites, 0);
   const std::string body = b.Body();
   const std::string last = " Nucleotide diversity, Pi: 0.00000\r\n";
   ASSERT_GE(body.size(), last.size());
   EXPECT_EQ(body.substr(body.size() - last.size()), last);
-  EXPECT_FALSE(b.run.Result.Variances.has_value());
-  EXPECT_FALSE(b.run.Result.SamplingVariance.has_value());
+  EXPECT_FALSE(result.Variances.has_value());
+  EXPECT_FALSE(result.SamplingVariance.has_value());
 }
 
 TEST(DnaPolymorphismRun, NoSegregatingSitePrintsZeros) {
@@ -150,7 +154,9 @@ TEST(DnaPolymorphismRun, TwoSequencesGiveFiniteNumbers) {
   // Hd = 1, VarHd = 0.25. V(Pi) with n - 2 = 0, L = 10, d = 1: A = 1 / (4 * 100 * 4) = 1/1600,
   // B = 0, C = 1 / 100 / 4 = 4/1600, V = (-2/1600 + 4/1600) * 4 / 2 = 0.0025.
   EXPECT_NE(b.Body().find("    Variance of Haplotype diversity: 0.25000\r\n"), std::string::npos);
-  EXPECT_NEAR(b.run.Result.SamplingVariance->Variance, 0.0025, 1e-15);
+  const DnaPolResult result = b.Result(o);
+  ASSERT_TRUE(result.SamplingVariance.has_value());
+  EXPECT_NEAR(result.SamplingVariance->Variance, 0.0025, 1e-15);
   EXPECT_NE(b.Body().find("    Sampling variance of Pi: 0.0025000\r\n"), std::string::npos);
 }
 
@@ -169,7 +175,7 @@ std::vector<std::string> DistinctRows(int n) {
 TEST(DnaPolymorphismRun, AHundredHaplotypesTakeFourDecimals) {
   Bench hundred(DistinctRows(100));
   ASSERT_TRUE(hundred.Run(Whole()));
-  EXPECT_EQ(hundred.run.Result.Haplotypes.Haplotypes, 100);
+  EXPECT_EQ(hundred.Result(Whole()).Haplotypes.Haplotypes, 100);
   // Hd = (1 - 0.01) * 100/99 = 1; VarHd = 2 / 9900 * (0.01 - 0.0001) = 2e-6.
   const std::string body = hundred.Body();
   EXPECT_NE(body.find(" Haplotype (gene) diversity, Hd: 1.0000\r\n"), std::string::npos);
@@ -194,9 +200,10 @@ TEST(DnaPolymorphismRun, TheSlidingWindowFillsTheGridAndTheGraph) {
   o.WindowLength = 4;
   o.StepSize = 2;
   ASSERT_TRUE(b.Run(o));
-  EXPECT_FALSE(b.run.Result.SamplingVariance.has_value());
-  EXPECT_FALSE(b.run.Result.PiJC.has_value());
-  ASSERT_TRUE(b.run.Result.Variances.has_value());
+  const DnaPolResult result = b.Result(o);
+  EXPECT_FALSE(result.SamplingVariance.has_value());
+  EXPECT_FALSE(result.PiJC.has_value());
+  ASSERT_TRUE(result.Variances.has_value());
   // Windows 1-4 (sites 1, 3: k = 1.0, S 2), 3-6 (3, 5: k = 1.0), 5-9 (site 7 a gap, so the
   // window reaches 9 for 4 net sites: 5, 8, 9, k = 1.5, S 3). a1 = 25/12:
   // Theta = 2 / (4 * 25/12) = 0.24 and 3 / (4 * 25/12) = 0.36.
@@ -209,7 +216,7 @@ TEST(DnaPolymorphismRun, TheSlidingWindowFillsTheGridAndTheGraph) {
             (std::vector<std::string>{"        3-6", "    4", "0.25000", "0.24000", "   2"}));
   EXPECT_EQ(b.channel.Grid1.Rows[2],
             (std::vector<std::string>{"        5-9", "    6", "0.37500", "0.36000", "   3"}));
-  const GraphData& g = b.run.Graph;
+  const GraphData& g = b.channel.Graph();
   EXPECT_EQ(g.GraphKind, kGraphPolymorphism);
   EXPECT_EQ(g.GraphRows, 3);
   EXPECT_EQ(g.Table.Capacity(), 5);  // Int(8 / 2) + 1
@@ -292,7 +299,9 @@ TEST(DnaPolymorphismRun, TheMissingDataModeWithGapsExcludedInTheWholeFile) {
                           " Sites with alignment gaps or missing data in excluded sequences\r\n"
                           "    were completly excluded\r\n\r\n"),
             std::string::npos);
-  EXPECT_EQ(b.run.Result.Deletion->ExcludedGapSites, 1);
+  const DnaPolResult result = b.Result(o);
+  ASSERT_TRUE(result.Deletion.has_value());
+  EXPECT_EQ(result.Deletion->ExcludedGapSites, 1);
 }
 
 TEST(DnaPolymorphismRun, MissingDataLeavesOutTheExtras) {
@@ -302,9 +311,10 @@ TEST(DnaPolymorphismRun, MissingDataLeavesOutTheExtras) {
   DnaPolOptions o = Whole();
   o.MissingData = o.ComputeJC = o.ComputeVarPi = true;
   ASSERT_TRUE(b.Run(o));
-  EXPECT_TRUE(b.run.Result.Deletion.has_value());
-  EXPECT_FALSE(b.run.Result.PiJC.has_value());
-  EXPECT_FALSE(b.run.Result.SamplingVariance.has_value());
+  const DnaPolResult result = b.Result(o);
+  EXPECT_TRUE(result.Deletion.has_value());
+  EXPECT_FALSE(result.PiJC.has_value());
+  EXPECT_FALSE(result.SamplingVariance.has_value());
   EXPECT_EQ(b.Body().find("Jukes"), std::string::npos);
   // The dialog's rule.
   DnaPolOptions d = SwitchDnaPolOption(SwitchDnaPolOption(Whole(), "jc"), "variance");
@@ -367,10 +377,11 @@ TEST(DnaPolymorphismRun, TheResultAsJson) {
   Bench b(test::HandRows());
   DnaPolOptions o = Whole();
   o.ComputeJC = true;
-  ASSERT_TRUE(b.Run(o));
+  ASSERT_TRUE(b.Run(o, true));
   JsonText json;
-  WriteJson(json, b.run.Result);
-  const std::string& t = json.Text();
+  WriteJson(json, b.Result(o));
+  const std::string& t = b.outcome.Json;
+  EXPECT_EQ(t, json.Text());
   EXPECT_NE(t.find("\"segregating_sites\":5"), std::string::npos) << t;
   EXPECT_NE(t.find("\"haplotypes\":5"), std::string::npos);
   EXPECT_NE(t.find("\"net_sites\":8"), std::string::npos);

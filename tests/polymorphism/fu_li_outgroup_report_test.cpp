@@ -17,7 +17,7 @@ TEST(FuLiOutgroupTest, FiveSequencesCountingMutations) {
   // From the fixture: L = 9, S = 5, Eta = 6, Eta(e) = 5, Eta(s) = 6, k = 2.3, Pi = 2.3 / 9.
   // D = -1.2904881 and F = -1.5438885 (worked in fu_li_statistics_test); Theta from Eta =
   // 6 / (25/12) = 2.88. H: S(1) = 5, S(4) = 1, ThetaH = 2.1, ThetaPi = 2.4, H = 0.3.
-  const ActiveData ad = test::WithOutgroup(NeutralityRows(), OutgroupRow());
+  const auto ad = test::WithOutgroup(NeutralityRows(), OutgroupRow());
   const FuLiOutgroupResult r = ComputeFuLiOutgroupTest(ad, 1, 10, true, std::nullopt);
   EXPECT_NEAR(r.D, -1.2904881, 1e-7);
   EXPECT_NEAR(r.F, -1.5438885, 1e-7);
@@ -59,7 +59,7 @@ TEST(FuLiOutgroupTest, FiveSequencesCountingMutations) {
 TEST(FuLiOutgroupTest, FiveSequencesCountingSites) {
   // Eta = 5, Eta(e) = 4: D = -1.1178236, F = -1.1173239; Theta from S = 5 * 12/25 = 2.4;
   // H: S(1) = 3, S(2) = 1, S(4) = 1, ThetaH = 2.3, ThetaPi = 2.2, H = -0.1.
-  const ActiveData ad = test::WithOutgroup(NeutralityRows(), OutgroupRow());
+  const auto ad = test::WithOutgroup(NeutralityRows(), OutgroupRow());
   const FuLiOutgroupResult r = ComputeFuLiOutgroupTest(ad, 1, 10, false, std::nullopt);
   const std::string body = FuLiOutgroupReportBody(r);
   EXPECT_NE(body.find(" Total number of segregating sites in external branches, Eta(e): 4\r\n"
@@ -74,7 +74,7 @@ TEST(FuLiOutgroupTest, FiveSequencesCountingSites) {
 }
 
 TEST(FuLiOutgroupTest, GapsOfTheCompleteFileAreSaidInTheHead) {
-  const ActiveData ad = test::WithOutgroup(NeutralityRows(), OutgroupRow(), 2);
+  const auto ad = test::WithOutgroup(NeutralityRows(), OutgroupRow(), 2);
   const FuLiOutgroupResult r = ComputeFuLiOutgroupTest(ad, 1, 10, true, std::nullopt);
   EXPECT_NE(FuLiOutgroupHead(ad, r).find(
                 " Total sites (excluding alignment gaps): 9\r\n"
@@ -83,7 +83,7 @@ TEST(FuLiOutgroupTest, GapsOfTheCompleteFileAreSaidInTheHead) {
 }
 
 TEST(FuLiOutgroupTest, NoMutationLeavesDAndFNotDetermined) {
-  const ActiveData ad = test::WithOutgroup({"ACGT", "ACGT", "ACGT"}, "ACGA");
+  const auto ad = test::WithOutgroup({"ACGT", "ACGT", "ACGT"}, "ACGA");
   const FuLiOutgroupResult r = ComputeFuLiOutgroupTest(ad, 1, 4, true, std::nullopt);
   EXPECT_FALSE(r.Determined);
   const std::string body = FuLiOutgroupReportBody(r);

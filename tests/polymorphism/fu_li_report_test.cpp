@@ -20,7 +20,7 @@ TEST(FuLiTest, FiveSequencesCountingMutations) {
   // Fs with theta = 2.9: P(K = 5) = 2.9^4 / (3.9 * 4.9 * 5.9 * 6.9) = 70.7281 / 777.9681
   //   = 0.0909139; P(K < 5) = 0.9090861; Fs = ln(0.0909139 / 0.9090861) = -2.3025271;
   //   Strobeck's S = P(K <= 5) = 1.
-  const ActiveData ad = test::SelectedAlignment(NeutralityRows());
+  const auto ad = test::SelectedAlignment(NeutralityRows());
   const FuLiTestResult r = ComputeFuLiTest(ad, 1, 10, true, std::nullopt);
   ASSERT_TRUE(r.Haplotypes.has_value());
   ASSERT_TRUE(r.Fs.has_value());
@@ -58,7 +58,7 @@ TEST(FuLiTest, FiveSequencesCountingMutations) {
 
 TEST(FuLiTest, FiveSequencesCountingSites) {
   // Eta = S = 6, Eta(s) = 5 sites: D* = -0.6682294, F* = -0.5440493; thetas 4.0 and 2.88.
-  const ActiveData ad = test::SelectedAlignment(NeutralityRows());
+  const auto ad = test::SelectedAlignment(NeutralityRows());
   const FuLiTestResult r = ComputeFuLiTest(ad, 1, 10, false, std::nullopt);
   const std::string body = FuLiReportBody(r);
   EXPECT_NE(body.find(" Total number of singleton segregating sites, Eta(s): 5\r\n"),
@@ -74,7 +74,7 @@ TEST(FuLiTest, FiveSequencesCountingSites) {
 
 TEST(FuLiTest, NoPolymorphismIsOneLineAndNoFs) {
   // k = 0: no haplotype block, no Fs block.
-  const ActiveData ad = test::SelectedAlignment({"ACGT", "ACGT", "ACGT", "ACGT"});
+  const auto ad = test::SelectedAlignment({"ACGT", "ACGT", "ACGT", "ACGT"});
   const FuLiTestResult r = ComputeFuLiTest(ad, 1, 4, true, std::nullopt);
   EXPECT_FALSE(r.Haplotypes.has_value());
   EXPECT_FALSE(r.Fs.has_value());
@@ -83,7 +83,7 @@ TEST(FuLiTest, NoPolymorphismIsOneLineAndNoFs) {
 
 TEST(FuLiTest, DifferencesOnlyAtGapSitesGiveNoFs) {
   // The only differences stand at a site with a gap: k = 0, so no haplotypes and no Fs.
-  const ActiveData ad = test::SelectedAlignment({"AC", "AG", "A-", "AC"});
+  const auto ad = test::SelectedAlignment({"AC", "AG", "A-", "AC"});
   const FuLiTestResult r = ComputeFuLiTest(ad, 1, 2, true, std::nullopt);
   EXPECT_EQ(r.Totals.K, 0.0);
   EXPECT_EQ(FuLiReportBody(r).find("Fu's Fs"), std::string::npos);

@@ -11,7 +11,7 @@ namespace ovelt {
 namespace {
 
 TEST(Haplotypes, FiveDistinctSequences) {
-  const ActiveData ad = test::Selected(test::HandRows());
+  const auto ad = test::Selected(test::HandRows());
   const HaplotypeStats h = ComputeHaplotypes(ad, 1, 9);
   EXPECT_EQ(h.Haplotypes, 5);
   // p = 1/5 each: Q2 = 0.2, Q3 = 0.04. Hd = 0.8 * 5 / 4 = 1.
@@ -22,7 +22,7 @@ TEST(Haplotypes, FiveDistinctSequences) {
 
 TEST(Haplotypes, SequencesDifferingOnlyAtExcludedSitesAreOneHaplotype) {
   // Site 5 is class 5 (a gap in sequence 3): sequences 1 and 2 differ only there.
-  const ActiveData ad = test::Selected({"ACGTA", "ACGTT", "ATGT-"});
+  const auto ad = test::Selected({"ACGTA", "ACGTT", "ATGT-"});
   const HaplotypeStats h = ComputeHaplotypes(ad, 1, 5);
   EXPECT_EQ(h.Haplotypes, 2);
   EXPECT_EQ(h.Members, (std::vector<int32_t>{2, 1}));
@@ -34,7 +34,7 @@ TEST(Haplotypes, SequencesDifferingOnlyAtExcludedSitesAreOneHaplotype) {
 }
 
 TEST(Haplotypes, OneHaplotypeHasNoDiversity) {
-  const ActiveData ad = test::Selected({"ACGT", "ACGT", "ACGT"});
+  const auto ad = test::Selected({"ACGT", "ACGT", "ACGT"});
   const HaplotypeStats h = ComputeHaplotypes(ad, 1, 4);
   EXPECT_EQ(h.Haplotypes, 1);
   EXPECT_EQ(h.Hd, 0.0);
@@ -43,7 +43,7 @@ TEST(Haplotypes, OneHaplotypeHasNoDiversity) {
 
 TEST(Haplotypes, TwoSequencesGiveFiniteValues) {
   // n - 2 = 0 in the first term: VarHd = 2 / 2 * (0.5 - 0.25) = 0.25, Hd = 0.5 * 2 = 1.
-  const ActiveData ad = test::Selected({"ACGT", "ACGA"});
+  const auto ad = test::Selected({"ACGT", "ACGA"});
   const HaplotypeStats h = ComputeHaplotypes(ad, 1, 4);
   EXPECT_EQ(h.Haplotypes, 2);
   EXPECT_NEAR(h.Hd, 1.0, 1e-12);
@@ -51,7 +51,7 @@ TEST(Haplotypes, TwoSequencesGiveFiniteValues) {
 }
 
 TEST(Haplotypes, TheGaugeRisesTo100AndNeverFalls) {
-  const ActiveData ad = test::Selected(test::HandRows());
+  const auto ad = test::Selected(test::HandRows());
   std::vector<int> seen;
   (void)ComputeHaplotypes(ad, 1, 9, [&seen](int p) { seen.push_back(p); });
   ASSERT_FALSE(seen.empty());
@@ -60,7 +60,7 @@ TEST(Haplotypes, TheGaugeRisesTo100AndNeverFalls) {
 }
 
 // Leaders and members as the plain comparison of every later sequence with each leader.
-std::vector<int32_t> PlainMembers(const ActiveData& ad, int32_t from, int32_t to) {
+std::vector<int32_t> PlainMembers(const Selection& ad, int32_t from, int32_t to) {
   const int32_t n = ad.SelOutCount;
   std::vector<int32_t> leader(static_cast<size_t>(n) + 1, 0), members;
   for (int32_t i = 1; i <= n; ++i) {
@@ -80,8 +80,8 @@ TEST(Haplotypes, AgreeWithThePlainComparisonOnRandomAlignments) {
   for (int round = 0; round < 30; ++round) {
     const int n = 2 + round % 12;
     // Two letters and few sites make repeated haplotypes common.
-    const ActiveData ad = test::Selected(test::RandomRows(rng, n, 4 + round % 4, "AG-"));
-    const int32_t sites = ad.NumSites;
+    const auto ad = test::Selected(test::RandomRows(rng, n, 4 + round % 4, "AG-"));
+    const int32_t sites = ad.data().NumSites;
     const HaplotypeStats h = ComputeHaplotypes(ad, 1, sites);
     EXPECT_EQ(h.Members, PlainMembers(ad, 1, sites)) << "round " << round;
   }

@@ -10,7 +10,7 @@ namespace ovelt {
 namespace {
 
 TEST(MismatchDistribution, CountsPairsByDifferencesAsCountedByHand) {
-  const ActiveData ad = test::SelectedAlignment(test::kFiveSequences);
+  const auto ad = test::SelectedAlignment(test::kFiveSequences);
   const MismatchDistribution m = ComputeMismatch(ad, 1, 8);
   EXPECT_EQ(m.Pairs, 10);
   EXPECT_EQ(m.MaxDiff, 3);
@@ -18,7 +18,7 @@ TEST(MismatchDistribution, CountsPairsByDifferencesAsCountedByHand) {
 }
 
 TEST(MismatchDistribution, SumsToThePairsAndHasMeanK) {
-  const ActiveData ad = test::SelectedAlignment(test::kFiveSequences);
+  const auto ad = test::SelectedAlignment(test::kFiveSequences);
   const MismatchDistribution m = ComputeMismatch(ad, 1, 8);
   EXPECT_EQ(std::accumulate(m.Mismatch.begin(), m.Mismatch.end(), int64_t{0}), 5 * 4 / 2);
   // k as the sum of per-site diversities: three singleton sites of 0.4 and one 2:3 site of 0.6.
@@ -32,7 +32,7 @@ TEST(MismatchDistribution, SumsToThePairsAndHasMeanK) {
 }
 
 TEST(MismatchDistribution, VarianceAroundKByHand) {
-  const ActiveData ad = test::SelectedAlignment(test::kFiveSequences);
+  const auto ad = test::SelectedAlignment(test::kFiveSequences);
   const MismatchDistribution m = ComputeMismatch(ad, 1, 8);
   // (4 * 0.8^2 + 4 * 0.2^2 + 2 * 1.2^2) / 9 = 5.6 / 9.
   EXPECT_NEAR(MismatchVariance(m, 1.8), 5.6 / 9.0, 1e-12);
@@ -41,14 +41,14 @@ TEST(MismatchDistribution, VarianceAroundKByHand) {
 TEST(MismatchDistribution, GapSitesAreSkipped) {
   // Site 7 is the gap site: sequences 1 and 3 differ there in no nucleotide, and a region of
   // that site alone gives no difference at all.
-  const ActiveData ad = test::SelectedAlignment(test::kFiveSequences);
+  const auto ad = test::SelectedAlignment(test::kFiveSequences);
   const MismatchDistribution m = ComputeMismatch(ad, 7, 7);
   EXPECT_EQ(m.MaxDiff, 0);
   EXPECT_EQ(m.Mismatch[0], 10);
 }
 
 TEST(MismatchDistribution, TwoSequencesMakeOnePairWithNoVariance) {
-  const ActiveData ad = test::SelectedAlignment({"ACGTAC", "ACTTGA"});
+  const auto ad = test::SelectedAlignment({"ACGTAC", "ACTTGA"});
   const MismatchDistribution m = ComputeMismatch(ad, 1, 6);
   EXPECT_EQ(m.Pairs, 1);
   EXPECT_EQ(m.MaxDiff, 3);

@@ -12,7 +12,7 @@ namespace {
 std::vector<std::string> GappyRows() { return {"ACGTAC", "AC-T-C", "ATG?--", "GTGT??"}; }
 
 TEST(PairwiseDeletion, HandWorkedAlignment) {
-  const ActiveData ad = test::Selected(GappyRows());
+  const auto ad = test::Selected(GappyRows());
   const PairwiseDeletion r = ComputePairwiseDeletion(ad, 1, 6);
   // Pairs: compared sites V and differences:
   //   (1,2) V 4 (sites 3, 5 dropped), 0   (1,3) V 3, 1   (1,4) V 4, 2
@@ -35,7 +35,7 @@ TEST(PairwiseDeletion, HandWorkedAlignment) {
 
 TEST(PairwiseDeletion, OneKnownNucleotideIsNotAnalyzedTwoEqualOnesAre) {
   // Site 1 has one nucleotide among three sequences, site 2 two equal ones.
-  const ActiveData one = test::Selected({"AC", "-C", "?-"});
+  const auto one = test::Selected({"AC", "-C", "?-"});
   const PairwiseDeletion r = ComputePairwiseDeletion(one, 1, 2);
   EXPECT_EQ(r.SitesAnalyzed, 1);  // 2 sites - site 1
   EXPECT_EQ(r.SegSites, 0);
@@ -49,8 +49,8 @@ TEST(PairwiseDeletion, GapsOutsideTheSetAreExcludedWithGapsInSets2) {
   ad.GapsInSets = 2;
   ReclassifyIncluded(ad);
   ComputeSiteDiversity(ad);
-  SelectOneSet(ad, 1);
-  const PairwiseDeletion r = ComputePairwiseDeletion(ad, 1, 4);
+  Selection sel = SelectOneSet(ad, 1, ad.Region);
+  const PairwiseDeletion r = ComputePairwiseDeletion(sel, 1, 4);
   EXPECT_EQ(r.ExcludedGapSites, 1);
   // Sites 1 (A A G) and 3 (G T G) are used; pairs compare 4 - 1 = 3 sites:
   //   (1,2) d 1, (1,3) d 1, (2,3) d 2.
@@ -61,8 +61,8 @@ TEST(PairwiseDeletion, GapsOutsideTheSetAreExcludedWithGapsInSets2) {
   // With GapsInSets 1 the same site is an ordinary monomorphic site of the set.
   ActiveData plain = test::MakeAlignment({"ACGT", "ACTT", "GCGT", "A-GT"});
   test::AddSet(plain, "pop", {1, 2, 3});
-  SelectOneSet(plain, 1);
-  const PairwiseDeletion p = ComputePairwiseDeletion(plain, 1, 4);
+  sel = SelectOneSet(plain, 1, plain.Region);
+  const PairwiseDeletion p = ComputePairwiseDeletion(sel, 1, 4);
   EXPECT_EQ(p.ExcludedGapSites, 0);
   EXPECT_NEAR(p.AverageSites, 4.0, 1e-12);
   EXPECT_EQ(p.SitesAnalyzed, 4);
@@ -70,7 +70,7 @@ TEST(PairwiseDeletion, GapsOutsideTheSetAreExcludedWithGapsInSets2) {
 
 TEST(PairwiseDeletion, AllPairsEmptyLeaveZeros) {
   // Two sequences, every site has a gap in one of them: each pair compares 0 sites.
-  const ActiveData ad = test::Selected({"A-", "-C"});
+  const auto ad = test::Selected({"A-", "-C"});
   const PairwiseDeletion r = ComputePairwiseDeletion(ad, 1, 2);
   EXPECT_EQ(r.Comparisons, 0);
   EXPECT_EQ(r.PiPairwise, 0.0);

@@ -39,14 +39,12 @@ inline std::string OutgroupRow() {
 }
 
 // All included sequences selected over all sites.
-inline ActiveData SelectedAlignment(const std::vector<std::string>& rows) {
-  ActiveData ad = MakeAlignment(rows);
-  SelectOneSet(ad, 0);
-  return ad;
+inline OwnedSelection SelectedAlignment(const std::vector<std::string>& rows) {
+  return SelectedFrom(MakeAlignment(rows));
 }
 
 // The five as set 1 and the outgroup as set 2, both selected, the first classified.
-inline ActiveData WithOutgroup(const std::vector<std::string>& rows, const std::string& outgroup,
+inline OwnedSelection WithOutgroup(const std::vector<std::string>& rows, const std::string& outgroup,
                                int16_t gaps_in_sets = 1) {
   std::vector<std::string> all = rows;
   all.push_back(outgroup);
@@ -57,10 +55,12 @@ inline ActiveData WithOutgroup(const std::vector<std::string>& rows, const std::
   for (int i = 1; i <= static_cast<int>(rows.size()); ++i) ingroup.push_back(i);
   AddSet(ad, "Ingroup", ingroup);
   AddSet(ad, "Outgroup", {static_cast<int>(all.size())});
-  SelectTwoSets(ad, 1, 2);
-  ClassifySelection1(ad);
-  DiversitySelection1(ad);
-  return ad;
+  auto owner = std::make_shared<const ActiveData>(std::move(ad));
+  OwnedSelection selected;
+  static_cast<Selection&>(selected) = SelectTwoSets(*owner, 1, 2, {1, owner->NumSites});
+  ClassifyFirst(selected);
+  selected.Owner = owner;
+  return selected;
 }
 
 }  // namespace ovelt::test

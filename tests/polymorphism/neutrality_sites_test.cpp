@@ -15,40 +15,40 @@ using test::NeutralityRows;
 using test::OutgroupRow;
 
 TEST(NeutralitySites, SingletonCountPerSite) {
-  const ActiveData ad = test::SelectedAlignment(NeutralityRows());
-  EXPECT_EQ(SingletonCount(ad.SelMatrix1, 1, 5), 1);   // AAAGA
-  EXPECT_EQ(SingletonCount(ad.SelMatrix1, 3, 5), 0);   // CCCCC
-  EXPECT_EQ(SingletonCount(ad.SelMatrix1, 9, 5), 0);   // GAGAG
-  EXPECT_EQ(SingletonCount(ad.SelMatrix1, 10, 5), 2);  // AACAT
-  EXPECT_EQ(SingletonCount(ad.SelMatrix1, 10, 4), 1);  // AACA: only C
+  const auto sel = test::SelectedAlignment(NeutralityRows());
+  EXPECT_EQ(SingletonCount(sel.SelMatrix1, 1, 5), 1);   // AAAGA
+  EXPECT_EQ(SingletonCount(sel.SelMatrix1, 3, 5), 0);   // CCCCC
+  EXPECT_EQ(SingletonCount(sel.SelMatrix1, 9, 5), 0);   // GAGAG
+  EXPECT_EQ(SingletonCount(sel.SelMatrix1, 10, 5), 2);  // AACAT
+  EXPECT_EQ(SingletonCount(sel.SelMatrix1, 10, 4), 1);  // AACA: only C
 }
 
 TEST(NeutralitySites, OutgroupStateExternalCountAndUsability) {
-  const ActiveData ad = test::WithOutgroup(NeutralityRows(), OutgroupRow());
-  EXPECT_EQ(OutgroupState(ad.SelMatrix2, 1, 1), 'A');
-  EXPECT_EQ(OutgroupState(ad.SelMatrix2, 7, 1), 0);        // a gap
-  EXPECT_EQ(ExternalCount(ad.SelMatrix1, 1, 5, 'A'), 1);   // the G of AAAGA
-  EXPECT_EQ(ExternalCount(ad.SelMatrix1, 2, 5, 'T'), 0);   // the singleton T is ancestral
-  EXPECT_EQ(ExternalCount(ad.SelMatrix1, 10, 5, 'A'), 2);  // C and T of AACAT
-  EXPECT_TRUE(OutgroupUsable(ad.SelMatrix1, 5, ad.SelMatrix2, 1, 1));
-  EXPECT_TRUE(OutgroupUsable(ad.SelMatrix1, 5, ad.SelMatrix2, 1, 5));   // monomorphic, fixed
-  EXPECT_FALSE(OutgroupUsable(ad.SelMatrix1, 5, ad.SelMatrix2, 1, 7));  // gap
-  EXPECT_FALSE(OutgroupUsable(ad.SelMatrix1, 5, ad.SelMatrix2, 1, 9));  // C absent from GAGAG
+  const auto sel = test::WithOutgroup(NeutralityRows(), OutgroupRow());
+  EXPECT_EQ(OutgroupState(sel.SelMatrix2, 1, 1), 'A');
+  EXPECT_EQ(OutgroupState(sel.SelMatrix2, 7, 1), 0);        // a gap
+  EXPECT_EQ(ExternalCount(sel.SelMatrix1, 1, 5, 'A'), 1);   // the G of AAAGA
+  EXPECT_EQ(ExternalCount(sel.SelMatrix1, 2, 5, 'T'), 0);   // the singleton T is ancestral
+  EXPECT_EQ(ExternalCount(sel.SelMatrix1, 10, 5, 'A'), 2);  // C and T of AACAT
+  EXPECT_TRUE(OutgroupUsable(sel.SelMatrix1, 5, sel.SelMatrix2, 1, 1));
+  EXPECT_TRUE(OutgroupUsable(sel.SelMatrix1, 5, sel.SelMatrix2, 1, 5));   // monomorphic, fixed
+  EXPECT_FALSE(OutgroupUsable(sel.SelMatrix1, 5, sel.SelMatrix2, 1, 7));  // gap
+  EXPECT_FALSE(OutgroupUsable(sel.SelMatrix1, 5, sel.SelMatrix2, 1, 9));  // C absent from GAGAG
 }
 
 TEST(NeutralitySites, OutgroupSequencesThatDisagreeAreNotUsable) {
   ActiveData ad = test::MakeAlignment({"AC", "AC", "AT", "AC", "GC", "GT"});
   test::AddSet(ad, "In", {1, 2, 3, 4});
   test::AddSet(ad, "Out", {5, 6});
-  SelectTwoSets(ad, 1, 2);
-  EXPECT_EQ(OutgroupState(ad.SelMatrix2, 1, 2), 'G');
-  EXPECT_EQ(OutgroupState(ad.SelMatrix2, 2, 2), 0);
-  EXPECT_FALSE(OutgroupUsable(ad.SelMatrix1, 4, ad.SelMatrix2, 2, 2));
+  Selection sel = SelectTwoSets(ad, 1, 2, ad.Region);
+  EXPECT_EQ(OutgroupState(sel.SelMatrix2, 1, 2), 'G');
+  EXPECT_EQ(OutgroupState(sel.SelMatrix2, 2, 2), 0);
+  EXPECT_FALSE(OutgroupUsable(sel.SelMatrix1, 4, sel.SelMatrix2, 2, 2));
 }
 
 TEST(NeutralitySites, TotalsWithoutOutgroup) {
-  const ActiveData ad = test::SelectedAlignment(NeutralityRows());
-  const SiteTallies tallies = TallySites(ad, 1, 10);
+  const auto sel = test::SelectedAlignment(NeutralityRows());
+  const SiteTallies tallies = TallySites(sel, 1, 10);
   const NeutralityTotals mutations = SumTallies(tallies, 1, 10, true, 5);
   EXPECT_EQ(mutations.NetSites, 10);
   EXPECT_EQ(mutations.SegSites, 6);
@@ -68,8 +68,8 @@ TEST(NeutralitySites, TotalsWithoutOutgroup) {
 }
 
 TEST(NeutralitySites, TotalsWithOutgroup) {
-  const ActiveData ad = test::WithOutgroup(NeutralityRows(), OutgroupRow());
-  const SiteTallies tallies = TallySitesWithOutgroup(ad, 1, 10);
+  const auto sel = test::WithOutgroup(NeutralityRows(), OutgroupRow());
+  const SiteTallies tallies = TallySitesWithOutgroup(sel, 1, 10);
   EXPECT_EQ(tallies.AmbiguousSites, std::vector<int32_t>{9});
   EXPECT_EQ(tallies.Classes[7], kGapOrMissing);
   const NeutralityTotals m = SumTallies(tallies, 1, 10, true, 5);
@@ -92,9 +92,9 @@ TEST(NeutralitySites, TotalsWithOutgroup) {
 TEST(NeutralitySites, GapInTheCompleteFileExcludedWhenGapsInSetsIsTwo) {
   // Site 7, a gap of the outgroup only, is a gap site of the ingroup too under GapsInSets 2;
   // L stays 9 either way, since the outgroup's gap already takes the site out.
-  const ActiveData ad = test::WithOutgroup(NeutralityRows(), OutgroupRow(), 2);
-  EXPECT_EQ(ad.SelSiteClass1[7], kGapOrMissing);
-  const SiteTallies tallies = TallySitesWithOutgroup(ad, 1, 10);
+  const auto sel = test::WithOutgroup(NeutralityRows(), OutgroupRow(), 2);
+  EXPECT_EQ(sel.SelSiteClass1[7], kGapOrMissing);
+  const SiteTallies tallies = TallySitesWithOutgroup(sel, 1, 10);
   EXPECT_EQ(SumTallies(tallies, 1, 10, true, 5).NetSites, 9);
 }
 
@@ -109,9 +109,9 @@ TEST(NeutralitySites, AgreeWithThePolymorphismSummary) {
                                   std::string(static_cast<size_t>(sites), 'A'));
     for (auto& row : rows)
       for (auto& cell : row) cell = cells[random() % cells.size()];
-    const ActiveData ad = test::SelectedAlignment(rows);
-    const PolyStats expected = ComputePolyStats(ad, 3, sites - 2);
-    const NeutralityTotals t = SumTallies(TallySites(ad, 3, sites - 2), 3, sites - 2, true, n);
+    const auto sel = test::SelectedAlignment(rows);
+    const PolyStats expected = ComputePolyStats(sel, 3, sites - 2);
+    const NeutralityTotals t = SumTallies(TallySites(sel, 3, sites - 2), 3, sites - 2, true, n);
     EXPECT_EQ(t.NetSites, expected.NetSites) << trial;
     EXPECT_EQ(t.SegSites, expected.SegSites) << trial;
     EXPECT_EQ(t.TotalMutations, static_cast<int32_t>(expected.Mutations)) << trial;
@@ -119,10 +119,10 @@ TEST(NeutralitySites, AgreeWithThePolymorphismSummary) {
     // Singletons cell by cell.
     int32_t singletons = 0;
     for (int32_t site = 3; site <= sites - 2; ++site) {
-      if (ad.SelSiteClass1[static_cast<size_t>(site)] == kGapOrMissing) continue;
+      if (sel.SelSiteClass1[static_cast<size_t>(site)] == kGapOrMissing) continue;
       for (const char base : std::string("ACGT")) {
         int count = 0;
-        for (int seq = 1; seq <= n; ++seq) count += ad.SelMatrix1.at(site, seq) == base ? 1 : 0;
+        for (int seq = 1; seq <= n; ++seq) count += sel.SelMatrix1.at(site, seq) == base ? 1 : 0;
         singletons += count == 1 ? 1 : 0;
       }
     }

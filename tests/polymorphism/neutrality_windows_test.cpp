@@ -27,38 +27,42 @@ TEST(NeutralityWindows, TajimaInTwoHalves) {
   // and the three-variant site (S = 3, k = 1.7). With n = 5, S / a1 = 1.44 and
   // sqrt(3 e1 + 6 e2) = sqrt(0.0288 + 6 * 2448/622500) = 0.2289000:
   // D = -0.24 / 0.2289 = -1.048493 and 0.26 / 0.2289 = 1.135867.
-  const ActiveData ad = test::SelectedAlignment(NeutralityRows());
-  const TajimaWindows w = ComputeTajimaWindows(TallySites(ad, 1, 10), Window(5, 5), 5, false);
+  const auto sel = test::SelectedAlignment(NeutralityRows());
+  const TajimaWindows w = ComputeTajimaWindows(TallySites(sel, 1, 10), Window(5, 5), 5, false);
   ASSERT_EQ(w.Rows.size(), 2U);
   const double scale = std::sqrt(0.0288 + 6.0 * 2448.0 / 622500.0);
   EXPECT_EQ(w.Rows[0].Window.Start, 1);
   EXPECT_EQ(w.Rows[0].Window.End, 5);
   EXPECT_EQ(w.Rows[0].SegSites, 3);
-  EXPECT_NEAR(w.Rows[0].D, -0.24 / scale, 1e-12);
+  ASSERT_TRUE(w.Rows[0].D.has_value());
+  EXPECT_NEAR(*w.Rows[0].D, -0.24 / scale, 1e-12);
   EXPECT_EQ(w.Rows[1].SegSites, 3);
-  EXPECT_NEAR(w.Rows[1].D, 0.26 / scale, 1e-12);
+  ASSERT_TRUE(w.Rows[1].D.has_value());
+  EXPECT_NEAR(*w.Rows[1].D, 0.26 / scale, 1e-12);
   EXPECT_EQ(w.Sequences, 5);
   EXPECT_EQ(w.Capacity, 2);
   // The grid cells: " 0.0000" for positive values, "-0.0000" for negative ones.
-  const std::vector<std::string> first = TajimaGridRow(w.Rows[0], 5);
+  const std::vector<std::string> first = TajimaGridRow(w.Rows[0]);
   ASSERT_EQ(first.size(), 4U);
   EXPECT_EQ(first[0], WindowCell(w.Rows[0].Window));
   EXPECT_EQ(first[2], "-1.0485");
   EXPECT_EQ(first[3], "");
-  EXPECT_EQ(TajimaGridRow(w.Rows[1], 5)[2], " 1.1359");
+  EXPECT_EQ(w.Rows[0].Mark, "");  // |D| far below the 10 % point for n = 5
+  EXPECT_EQ(TajimaGridRow(w.Rows[1])[2], " 1.1359");
   // Counting mutations, the second half holds Eta = 4.
-  const TajimaWindows m = ComputeTajimaWindows(TallySites(ad, 1, 10), Window(5, 5), 5, true);
+  const TajimaWindows m = ComputeTajimaWindows(TallySites(sel, 1, 10), Window(5, 5), 5, true);
   EXPECT_EQ(m.Rows[1].SegSites, 4);
 }
 
 TEST(NeutralityWindows, WindowWithoutSegregatingSiteIsNotDetermined) {
   // Windows of two sites: 7..8 is monomorphic.
-  const ActiveData ad = test::SelectedAlignment(NeutralityRows());
-  const TajimaWindows w = ComputeTajimaWindows(TallySites(ad, 1, 10), Window(2, 2), 5, false);
+  const auto sel = test::SelectedAlignment(NeutralityRows());
+  const TajimaWindows w = ComputeTajimaWindows(TallySites(sel, 1, 10), Window(2, 2), 5, false);
   ASSERT_EQ(w.Rows.size(), 5U);
   EXPECT_EQ(w.Rows[3].Window.Start, 7);
-  EXPECT_FALSE(w.Rows[3].Determined);
-  const std::vector<std::string> cells = TajimaGridRow(w.Rows[3], 5);
+  EXPECT_FALSE(w.Rows[3].D.has_value());
+  EXPECT_EQ(w.Rows[3].Mark, "n.d.");
+  const std::vector<std::string> cells = TajimaGridRow(w.Rows[3]);
   EXPECT_EQ(cells[2], "n.d.");
   EXPECT_EQ(cells[3], "n.d.");
   const GraphData graph = TajimaGraph(w);
@@ -66,9 +70,10 @@ TEST(NeutralityWindows, WindowWithoutSegregatingSiteIsNotDetermined) {
   EXPECT_EQ(graph.GraphRows, 5);
   EXPECT_EQ(graph.Table.at(4, 2), 0.0f);
   EXPECT_EQ(graph.Table.at(1, 1), static_cast<float>(w.Rows[0].Window.Midpoint));
-  EXPECT_EQ(graph.Table.at(1, 2), static_cast<float>(w.Rows[0].D));
+  ASSERT_TRUE(w.Rows[0].D.has_value());
+  EXPECT_EQ(graph.Table.at(1, 2), static_cast<float>(*w.Rows[0].D));
 
-  const FuLiWindows f = ComputeFuLiWindows(TallySites(ad, 1, 10), Window(2, 2), 5, true);
+  const FuLiWindows f = ComputeFuLiWindows(TallySites(sel, 1, 10), Window(2, 2), 5, true);
   EXPECT_FALSE(f.Rows[3].Determined);
   const std::vector<std::string> fu_cells = FuLiGridRow(f.Rows[3], 5);
   EXPECT_EQ(fu_cells, (std::vector<std::string>{WindowCell(f.Rows[3].Window), fu_cells[1], "n.d.",
@@ -76,8 +81,8 @@ TEST(NeutralityWindows, WindowWithoutSegregatingSiteIsNotDetermined) {
 }
 
 TEST(NeutralityWindows, FuLiPerWindowFromTheWindowsCounts) {
-  const ActiveData ad = test::SelectedAlignment(NeutralityRows());
-  const FuLiWindows w = ComputeFuLiWindows(TallySites(ad, 1, 10), Window(5, 5), 5, true);
+  const auto sel = test::SelectedAlignment(NeutralityRows());
+  const FuLiWindows w = ComputeFuLiWindows(TallySites(sel, 1, 10), Window(5, 5), 5, true);
   ASSERT_EQ(w.Rows.size(), 2U);
   // Sites 6..10: Eta = 1 + 1 + 2 = 4, Eta(s) = 1 + 0 + 2 = 3, k = 1.7.
   EXPECT_EQ(w.Rows[1].Eta, 4);
@@ -96,8 +101,8 @@ TEST(NeutralityWindows, OutgroupWindowsSkipTheOutgroupsGap) {
   // Site 7 is a gap of the outgroup: with gaps not counted, the first window of five net sites
   // is 1..5 and the second 6..11 would hold six sites; the region ends at 10, so it is 6..10
   // with four net sites (6, 8, 9, 10).
-  const ActiveData ad = test::WithOutgroup(NeutralityRows(), OutgroupRow());
-  const SiteTallies tallies = TallySitesWithOutgroup(ad, 1, 10);
+  const auto sel = test::WithOutgroup(NeutralityRows(), OutgroupRow());
+  const SiteTallies tallies = TallySitesWithOutgroup(sel, 1, 10);
   const FuLiOutgroupWindows w = ComputeFuLiOutgroupWindows(tallies, Window(5, 5), 5, true);
   ASSERT_EQ(w.Rows.size(), 2U);
   EXPECT_EQ(w.Rows[1].Window.Start, 6);

@@ -13,7 +13,7 @@ namespace ovelt {
 namespace {
 
 TEST(OverviewStats, FiveSequencesByHand) {
-  const ActiveData ad = test::SelectedAlignment(test::kFiveSequences);
+  const auto ad = test::SelectedAlignment(test::kFiveSequences);
   const OverviewStats o = ComputeOverview(ad, 1, 8, false);
   EXPECT_EQ(o.SegSites, 4);
   EXPECT_EQ(o.Mutations, 4);
@@ -74,7 +74,7 @@ TEST(OverviewStats, FiveSequencesByHand) {
 }
 
 TEST(OverviewStats, ReportLines) {
-  const ActiveData ad = test::SelectedAlignment(test::kFiveSequences);
+  const auto ad = test::SelectedAlignment(test::kFiveSequences);
   const OverviewStats o = ComputeOverview(ad, 1, 8, false);
   const std::string text = OverviewReportText(o);
   const std::string expected_start =
@@ -106,7 +106,7 @@ TEST(OverviewStats, ReportLines) {
 }
 
 TEST(OverviewStats, FewerThanFourSequencesSkipTheTests) {
-  const ActiveData ad = test::SelectedAlignment({"ACGT", "ACTT", "GCTT"});
+  const auto ad = test::SelectedAlignment({"ACGT", "ACTT", "GCTT"});
   const OverviewStats o = ComputeOverview(ad, 1, 4, false);
   EXPECT_FALSE(o.TestsComputed);
   const std::string text = OverviewReportText(o);
@@ -118,7 +118,7 @@ TEST(OverviewStats, FewerThanFourSequencesSkipTheTests) {
 }
 
 TEST(OverviewStats, NoPolymorphism) {
-  const ActiveData ad = test::SelectedAlignment({"ACGT", "ACGT", "ACGT", "ACGT"});
+  const auto ad = test::SelectedAlignment({"ACGT", "ACGT", "ACGT", "ACGT"});
   const OverviewStats o = ComputeOverview(ad, 1, 4, true);
   EXPECT_EQ(o.SegSites, 0);
   EXPECT_FALSE(o.TajimaD.Determined);
@@ -139,8 +139,8 @@ TEST(OverviewStats, CodingAndNoncodingGcAndCodonChanges) {
   ActiveData ad = test::MakeAlignment({"ATGAAACTTGC", "ATGAAGCTTGC", "ATGAAAATTGG"});
   ASSERT_TRUE(AssignCodingRegion(ad, 1, 9, 1));
   LeaveForm14(ad, true);
-  SelectOneSet(ad, 0);
-  const OverviewStats o = ComputeOverview(ad, 1, 11, false);
+  const Selection sel = SelectOneSet(ad, 0, {1, ad.NumSites});
+  const OverviewStats o = ComputeOverview(sel, 1, 11, false);
   ASSERT_TRUE(o.Changes.Applicable);
   EXPECT_EQ(o.Changes.Synonymous, 1);
   EXPECT_EQ(o.Changes.Nonsynonymous, 1);

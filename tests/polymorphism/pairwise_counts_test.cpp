@@ -11,7 +11,7 @@ namespace ovelt {
 namespace {
 
 TEST(PairwiseDifferences, HandWorkedAlignment) {
-  const ActiveData ad = test::Selected(test::HandRows());
+  const auto ad = test::Selected(test::HandRows());
   const PairCounts d = PairwiseDifferences(ad, 1, 9);
   const int expected[6][6] = {{0},
                               {0, 0, 2, 3, 3, 3},
@@ -31,7 +31,7 @@ TEST(PairwiseDifferences, AgreeWithTheCellByCellCountOnRandomAlignments) {
   for (int round = 0; round < 25; ++round) {
     const int n = 2 + round % 15;
     const int sites = 20 + round * 7;
-    const ActiveData ad = test::Selected(test::RandomRows(rng, n, sites, "ACGT-?"));
+    const auto ad = test::Selected(test::RandomRows(rng, n, sites, "ACGT-?"));
     const PairCounts d = PairwiseDifferences(ad, 1, sites);
     for (int i = 1; i <= n; ++i)
       for (int j = i + 1; j <= n; ++j) {

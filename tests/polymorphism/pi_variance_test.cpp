@@ -15,7 +15,7 @@ namespace {
 
 // The sampling variance exactly as its definition reads: the n x n matrix of 32-bit floats and
 // the triple loop of step 4.
-double PlainVariance(const ActiveData& ad, int32_t from, int32_t to, int32_t l) {
+double PlainVariance(const Selection& ad, int32_t from, int32_t to, int32_t l) {
   const int32_t n = ad.SelOutCount;
   std::vector<std::vector<float>> d(static_cast<size_t>(n) + 1,
                                     std::vector<float>(static_cast<size_t>(n) + 1, 0.0f));
@@ -49,7 +49,7 @@ double PlainVariance(const ActiveData& ad, int32_t from, int32_t to, int32_t l) 
 }
 
 TEST(SamplingVarianceOfPi, HandWorkedAlignment) {
-  const ActiveData ad = test::Selected(test::HandRows());
+  const auto ad = test::Selected(test::HandRows());
   const PiSamplingVariance v = SamplingVarianceOfPi(PairwiseDifferences(ad, 1, 9), 8);
   // n = 5, L = 8, D = 25, Dbar = 2.5.
   // A = 6.25 * 16 / (4 * 64 * 25) = 0.015625.
@@ -63,7 +63,7 @@ TEST(SamplingVarianceOfPi, HandWorkedAlignment) {
 TEST(SamplingVarianceOfPi, TwoSequencesGiveAFiniteValue) {
   // One difference over 4 sites: D = Dbar = 1; A = 1 / (4 * 16 * 4) = 1/256; B = 0 (n - 2);
   // C = 1 / 16 / 4 = 1/64. V = (-2/256 + 4/256) * 4 / 2 = 1/64.
-  const ActiveData ad = test::Selected({"ACGT", "ACGA"});
+  const auto ad = test::Selected({"ACGT", "ACGA"});
   const PiSamplingVariance v = SamplingVarianceOfPi(PairwiseDifferences(ad, 1, 4), 4);
   EXPECT_TRUE(std::isfinite(v.Variance));
   EXPECT_NEAR(v.Variance, 1.0 / 64, 1e-15);
@@ -74,7 +74,7 @@ TEST(SamplingVarianceOfPi, AgreesWithTheTripleLoopOnRandomAlignments) {
   for (int round = 0; round < 20; ++round) {
     const int n = 2 + round % 14;
     const int sites = 30 + 11 * round;
-    const ActiveData ad = test::Selected(test::RandomRows(rng, n, sites, "ACGT-"));
+    const auto ad = test::Selected(test::RandomRows(rng, n, sites, "ACGT-"));
     const int32_t l = ComputePolyStats(ad, 1, sites).NetSites;
     if (l == 0) continue;
     const double expected = PlainVariance(ad, 1, sites, l);
@@ -86,7 +86,7 @@ TEST(SamplingVarianceOfPi, AgreesWithTheTripleLoopOnRandomAlignments) {
 TEST(SamplingVarianceOfPi, LongDivergentSequencesRoundTheProductsAsSingles) {
   // Distances above 4096 make products that a 32-bit float rounds; both routes must agree.
   std::mt19937 rng(23);
-  const ActiveData ad = test::Selected(test::RandomRows(rng, 6, 12000, "ACGT"));
+  const auto ad = test::Selected(test::RandomRows(rng, 6, 12000, "ACGT"));
   const int32_t l = ComputePolyStats(ad, 1, 12000).NetSites;
   const PairCounts d = PairwiseDifferences(ad, 1, 12000);
   ASSERT_GT(d.at(1, 2), 4096);
@@ -95,7 +95,7 @@ TEST(SamplingVarianceOfPi, LongDivergentSequencesRoundTheProductsAsSingles) {
 }
 
 TEST(PiJukesCantor, HandWorkedAlignment) {
-  const ActiveData ad = test::Selected(test::HandRows());
+  const auto ad = test::Selected(test::HandRows());
   // x = 4 d / 24 = d / 6: five pairs with d = 2 (x = 1/3) and five with d = 3 (x = 1/2).
   const double two = -0.75 * std::log(1.0 - 1.0 / 3.0);
   const double three = -0.75 * std::log(0.5);
@@ -106,14 +106,14 @@ TEST(PiJukesCantor, HandWorkedAlignment) {
 TEST(PiJukesCantor, SaturatedPairsAreLeftOut) {
   // L = 4. Sequences 1 and 3 differ at 3 sites (x = 1): left out of sum and count.
   // Pairs (1,2) d = 1, x = 1/3; (2,3) d = 2, x = 2/3.
-  const ActiveData ad = test::Selected({"AAAA", "AAAC", "ACCC"});
+  const auto ad = test::Selected({"AAAA", "AAAC", "ACCC"});
   const double expected =
       (-0.75 * std::log(1 - 1.0 / 3.0) + -0.75 * std::log(1 - 2.0 / 3.0)) / 2.0;
   EXPECT_NEAR(PiJukesCantor(PairwiseDifferences(ad, 1, 4), 4), expected, 1e-14);
 }
 
 TEST(PiJukesCantor, NoUsablePairGivesZero) {
-  const ActiveData ad = test::Selected({"AAA", "CCC"});  // d = 3, L = 3: x = 4/3
+  const auto ad = test::Selected({"AAA", "CCC"});  // d = 3, L = 3: x = 4/3
   EXPECT_EQ(PiJukesCantor(PairwiseDifferences(ad, 1, 3), 3), 0.0);
 }
 

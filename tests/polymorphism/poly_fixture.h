@@ -3,6 +3,7 @@
 // reference computations that walk every pair of sequences cell by cell.
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -13,10 +14,8 @@
 namespace ovelt::test {
 
 // The alignment with all sequences selected over all sites.
-inline ActiveData Selected(const std::vector<std::string>& rows) {
-  ActiveData ad = MakeAlignment(rows);
-  SelectOneSet(ad, 0);
-  return ad;
+inline OwnedSelection Selected(const std::vector<std::string>& rows) {
+  return SelectedFrom(MakeAlignment(rows));
 }
 
 // The five sequences worked by hand in the tests (sites 1..9):
@@ -32,7 +31,7 @@ inline std::vector<std::string> HandRows() {
 }
 
 // Differences between sequences i and j at the sites of class 1 to 4 of from..to, cell by cell.
-inline int32_t PlainDifferences(const ActiveData& ad, int32_t i, int32_t j, int32_t from,
+inline int32_t PlainDifferences(const Selection& ad, int32_t i, int32_t j, int32_t from,
                                 int32_t to) {
   int32_t d = 0;
   for (int32_t site = from; site <= to; ++site) {

@@ -11,7 +11,7 @@ namespace ovelt {
 namespace {
 
 TEST(PolyStats, HandWorkedAlignment) {
-  const ActiveData ad = test::Selected(test::HandRows());
+  const auto ad = test::Selected(test::HandRows());
   const PolyStats s = ComputePolyStats(ad, 1, 9);
   EXPECT_EQ(s.NetSites, 8);  // 9 sites, one with a gap
   EXPECT_EQ(s.SegSites, 5);
@@ -22,7 +22,7 @@ TEST(PolyStats, HandWorkedAlignment) {
 }
 
 TEST(PolyStats, SegregatingTotalsOfASubRegion) {
-  const ActiveData ad = test::Selected(test::HandRows());
+  const auto ad = test::Selected(test::HandRows());
   // Sites 3..7: site 3 (0.6), site 5 (0.4), site 7 a gap.
   const SegregatingCounts t = SegregatingTotals(ad, 3, 7);
   EXPECT_EQ(t.NetSites, 4);
@@ -32,7 +32,7 @@ TEST(PolyStats, SegregatingTotalsOfASubRegion) {
 
 TEST(PolyStats, FourVariantsAddTwoMutations) {
   // Site 1 carries A, C, G, T: one segregating site, three mutations.
-  const ActiveData ad = test::Selected({"AA", "CA", "GA", "TA"});
+  const auto ad = test::Selected({"AA", "CA", "GA", "TA"});
   const PolyStats s = ComputePolyStats(ad, 1, 2);
   EXPECT_EQ(s.SegSites, 1);
   EXPECT_FLOAT_EQ(s.Mutations, 3.0f);
@@ -41,7 +41,7 @@ TEST(PolyStats, FourVariantsAddTwoMutations) {
 }
 
 TEST(PolyStats, OnlyGapSitesGiveNoNetSiteAndPiZero) {
-  const ActiveData ad = test::Selected({"A-?", "-C?", "AC?"});
+  const auto ad = test::Selected({"A-?", "-C?", "AC?"});
   const PolyStats s = ComputePolyStats(ad, 1, 3);
   EXPECT_EQ(s.NetSites, 0);
   EXPECT_EQ(s.SegSites, 0);
@@ -52,7 +52,7 @@ TEST(PolyStats, KEqualsTheMeanPairwiseDifferenceOnRandomAlignments) {
   std::mt19937 rng(2024);
   for (int round = 0; round < 20; ++round) {
     const int n = 2 + round % 9;
-    const ActiveData ad = test::Selected(test::RandomRows(rng, n, 60, "ACGT-"));
+    const auto ad = test::Selected(test::RandomRows(rng, n, 60, "ACGT-"));
     const PolyStats s = ComputePolyStats(ad, 1, 60);
     double sum = 0.0;
     for (int i = 1; i <= n; ++i)

@@ -20,7 +20,7 @@ MismatchDistribution Distribution(std::vector<int64_t> counts) {
 }
 
 TEST(Raggedness, HandWorkedAlignment) {
-  const ActiveData ad = test::SelectedAlignment(test::kFiveSequences);
+  const auto ad = test::SelectedAlignment(test::kFiveSequences);
   // Shares 0, 0.4, 0.4, 0.2 and 0 beyond: 0.4^2 + 0^2 + 0.2^2 + 0.2^2 = 0.24.
   EXPECT_NEAR(Raggedness(ComputeMismatch(ad, 1, 8)), 0.24, 1e-12);
 }
@@ -33,7 +33,7 @@ TEST(Raggedness, SinglePeakAtZero) {
 }
 
 TEST(MeanAbsoluteError, HandWorkedAlignment) {
-  const ActiveData ad = test::SelectedAlignment(test::kFiveSequences);
+  const auto ad = test::SelectedAlignment(test::kFiveSequences);
   // theta = k = 1.8: F(i) = 1.8^i / 2.8^(i + 1).
   const double f0 = 1.0 / 2.8, f1 = 1.8 / (2.8 * 2.8), f2 = 1.8 * 1.8 / std::pow(2.8, 3);
   const double expected = f0 + std::fabs(0.4 - f1) + std::fabs(0.4 - f2) +

@@ -22,10 +22,8 @@ inline const std::vector<std::string> kFiveSequences = {
     "AGCACACG",  //
 };
 
-inline ActiveData SelectedAlignment(const std::vector<std::string>& rows) {
-  ActiveData ad = MakeAlignment(rows);
-  SelectOneSet(ad, 0);
-  return ad;
+inline OwnedSelection SelectedAlignment(const std::vector<std::string>& rows) {
+  return SelectedFrom(MakeAlignment(rows));
 }
 
 }  // namespace ovelt::test

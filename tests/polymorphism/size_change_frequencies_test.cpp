@@ -9,14 +9,14 @@ namespace ovelt {
 namespace {
 
 TEST(ObservedFoldedSpectrum, FiveSequencesByHand) {
-  const ActiveData ad = test::SelectedAlignment(test::kFiveSequences);
+  const auto ad = test::SelectedAlignment(test::kFiveSequences);
   // Singletons at sites 1, 2 and 5; the 2 : 3 site 4 counts at i = 2.
   EXPECT_EQ(ObservedFoldedSpectrum(ad, 1, 8), (std::vector<double>{0, 3, 1}));
 }
 
 TEST(ObservedFoldedSpectrum, EachMinorNucleotideCounts) {
   // Site 1: A A A C G T -> C, G, T once each; site 2: A A C C C C -> i = 2.
-  const ActiveData ad = test::SelectedAlignment({"AA", "AA", "AC", "CC", "GC", "TC"});
+  const auto ad = test::SelectedAlignment({"AA", "AA", "AC", "CC", "GC", "TC"});
   EXPECT_EQ(ObservedFoldedSpectrum(ad, 1, 2), (std::vector<double>{0, 3, 1, 0}));
 }
 

@@ -10,7 +10,7 @@ namespace ovelt {
 namespace {
 
 TEST(SizeChangeR2, FiveSequencesByHand) {
-  const ActiveData ad = test::SelectedAlignment(test::kFiveSequences);
+  const auto ad = test::SelectedAlignment(test::kFiveSequences);
   // Singletons: T of seq 4 at site 1, A of seq 1 at site 2, C of seq 5 at site 5; site 4
   // (2 : 3) has none, site 7 (gap) is skipped.
   const std::vector<double> u = SingletonsPerSequence(ad, 1, 8);
@@ -20,7 +20,7 @@ TEST(SizeChangeR2, FiveSequencesByHand) {
 }
 
 TEST(SizeChangeR2, TwoSequencesShareEachDifference) {
-  const ActiveData ad = test::SelectedAlignment({"ACGTAC", "ACTTGA"});
+  const auto ad = test::SelectedAlignment({"ACGTAC", "ACTTGA"});
   const std::vector<double> u = SingletonsPerSequence(ad, 1, 6);
   EXPECT_EQ(u, (std::vector<double>{0, 1.5, 1.5}));
   EXPECT_EQ(R2Statistic(u, 3.0, 3), 0.0);
@@ -28,7 +28,7 @@ TEST(SizeChangeR2, TwoSequencesShareEachDifference) {
 
 TEST(SizeChangeR2, ThreeSequencesShareTwoToOneSplitsInThirds) {
   // Sites 1 and 2 split 2 : 1 (a third to each sequence), site 3 has three singletons.
-  const ActiveData ad = test::SelectedAlignment({"AAA", "AGC", "GGT"});
+  const auto ad = test::SelectedAlignment({"AAA", "AGC", "GGT"});
   const std::vector<double> u = SingletonsPerSequence(ad, 1, 3);
   for (int s = 1; s <= 3; ++s) EXPECT_NEAR(u[static_cast<size_t>(s)], 5.0 / 3.0, 1e-12);
   // k = 2/3 + 2/3 + 1 = 7/3; U - k/2 = 1/2 for all three: Sqr(1/4) / S = 0.5 / 3.
@@ -37,7 +37,7 @@ TEST(SizeChangeR2, ThreeSequencesShareTwoToOneSplitsInThirds) {
 
 TEST(SizeChangeR2, FourSequencesShareTwoToTwoSplitsInQuarters) {
   // Site 1 splits 2 : 2 (a quarter each), site 2 has the singleton T of sequence 4.
-  const ActiveData ad = test::SelectedAlignment({"AA", "AA", "GA", "GT"});
+  const auto ad = test::SelectedAlignment({"AA", "AA", "GA", "GT"});
   const std::vector<double> u = SingletonsPerSequence(ad, 1, 2);
   EXPECT_EQ(u, (std::vector<double>{0, 0.25, 0.25, 0.25, 1.25}));
   // k = 2/3 + 1/2 = 7/6: deviations -1/3 (three times) and 2/3; mean square 7/36.

@@ -8,7 +8,7 @@ namespace {
 
 TEST(GcWindows, CountsTheBasesOfEachWindow) {
   // Two sequences of six sites, windows of 3 sites stepping by 3.
-  ActiveData ad = test::Selected({"AGGCAT", "AGGCTT"});
+  auto ad = test::Selected({"AGGCAT", "AGGCTT"});
   const GcWindows gc = ComputeGcWindows(ad, 1, 6, {3, 3, false});
   ASSERT_EQ(gc.Rows.size(), 2u);
   // Window 1-3: A A G G G G: G+C = 4/6, A+T = 2/6, G = 4, C = 0.
@@ -33,7 +33,7 @@ TEST(GcWindows, CountsTheBasesOfEachWindow) {
 
 TEST(GcWindows, GapsAndMissingDataAreNotBases) {
   // Window 1-4 with gaps counted: A - ? C over one sequence and A C C C: bases A A C C C C.
-  ActiveData ad = test::Selected({"A-?C", "ACCC"});
+  auto ad = test::Selected({"A-?C", "ACCC"});
   const GcWindows gc = ComputeGcWindows(ad, 1, 4, {4, 4, true});
   ASSERT_EQ(gc.Rows.size(), 1u);
   EXPECT_DOUBLE_EQ(gc.Rows[0].GC, 4.0 / 6.0);

@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "analyses/polymorphism/diversity/dna_polymorphism_run.h"
-#include "analyses/polymorphism/neutrality/fu_li_run.h"
-#include "analyses/polymorphism/size_changes/size_change_run.h"
-#include "analyses/polymorphism/neutrality/tajima_run.h"
+#include "analyses/polymorphism/diversity/dna_polymorphism_options.h"
+#include "analyses/polymorphism/neutrality/neutrality_options.h"
+#include "analyses/polymorphism/size_changes/size_change_options.h"
+#include "polymorphism/run_fixture.h"
 #include "shell/workbench.h"
 #include "output/graph_layout.h"
 #include "support/scripted_platform.h"
@@ -136,7 +136,7 @@ TEST(GraphRender, PolymorphismWindowsFromARun) {
   Opened o;
   DnaPolOptions options;
   options.SlidingOn = true;
-  ASSERT_TRUE(RunDnaPolymorphism(o.wb.Data(), o.wb.Output(), o.platform, options));
+  ASSERT_TRUE(test::RunWith(CommandId::kDnaPolymorphism, o.wb, options).Stands);
   const GraphData& g = o.wb.Output().Graph();
   ASSERT_EQ(o.wb.Output().GraphOn, 1);
   ASSERT_EQ(g.GraphKind, 1);
@@ -158,7 +158,7 @@ TEST(GraphRender, TajimaWindowsWithTheirBounds) {
   Opened o;
   NeutralityOptions options;
   options.SlidingOn = true;
-  ASSERT_TRUE(RunTajimaTest(o.wb.Data(), o.wb.Output(), o.platform, options));
+  ASSERT_TRUE(test::RunWith(CommandId::kTajima, o.wb, options).Stands);
   const GraphData& g = o.wb.Output().Graph();
   ASSERT_EQ(g.GraphKind, 5);
   ASSERT_EQ(g.Bounds.size(), 1u);  // twelve sequences have a row of Tajima's table
@@ -181,7 +181,7 @@ TEST(GraphRender, FuLiWindowsBothStatistics) {
   Opened o;
   NeutralityOptions options;
   options.SlidingOn = true;
-  ASSERT_TRUE(RunFuLiTest(o.wb.Data(), o.wb.Output(), o.platform, options));
+  ASSERT_TRUE(test::RunWith(CommandId::kFuLi, o.wb, options).Stands);
   const GraphData& g = o.wb.Output().Graph();
   ASSERT_EQ(g.GraphKind, 6);
   ASSERT_EQ(g.Bounds.size(), 2u);
@@ -190,7 +190,7 @@ TEST(GraphRender, FuLiWindowsBothStatistics) {
 
 TEST(GraphRender, MismatchObservedAndExpected) {
   Opened o;
-  ASSERT_TRUE(RunSizeChange(o.wb.Data(), o.wb.Output(), o.platform, SizeChangeOptions{}));
+  ASSERT_TRUE(test::RunWith(CommandId::kSizeChanges, o.wb, SizeChangeOptions{}).Stands);
   const GraphData& g = o.wb.Output().Graph();
   ASSERT_EQ(g.GraphKind, 15);
   ASSERT_EQ(g.GraphSubKind, 11);

@@ -13,10 +13,10 @@
 #include <fstream>
 #include <string>
 
-#include "analyses/polymorphism/diversity/dna_polymorphism_run.h"
-#include "analyses/polymorphism/neutrality/fu_li_run.h"
-#include "analyses/polymorphism/size_changes/size_change_run.h"
-#include "analyses/polymorphism/neutrality/tajima_run.h"
+#include "analyses/polymorphism/diversity/dna_polymorphism_options.h"
+#include "analyses/polymorphism/neutrality/neutrality_options.h"
+#include "analyses/polymorphism/size_changes/size_change_options.h"
+#include "polymorphism/run_fixture.h"
 #include "output/graph_layout.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
@@ -42,8 +42,7 @@ struct Desk {
   void RunWindows() {
     DnaPolOptions options;
     options.SlidingOn = true;
-    ASSERT_TRUE(RunDnaPolymorphism(window.Bench().Data(), window.Bench().Output(), platform,
-                                   options));
+    ASSERT_TRUE(test::RunWith(CommandId::kDnaPolymorphism, window.Bench(), options).Stands);
     window.Refresh();
   }
   GraphWindow* Open() {
@@ -169,8 +168,8 @@ TEST(GraphWindowTest, HiddenByANewRunAndByClosingTheFile) {
   ASSERT_NE(graph, nullptr);
   SetGraphFocus(d.window, true);
   // A run without a window leaves no chart: the old one may not be shown.
-  ASSERT_TRUE(RunDnaPolymorphism(d.window.Bench().Data(), d.window.Bench().Output(), d.platform,
-                                 DnaPolOptions{}));
+  ASSERT_TRUE(
+      test::RunWith(CommandId::kDnaPolymorphism, d.window.Bench(), DnaPolOptions{}).Stands);
   d.window.Refresh();
   EXPECT_FALSE(graph->isVisible());
   EXPECT_FALSE(GraphHasFocus(d.window));
@@ -190,8 +189,7 @@ TEST(GraphWindowTest, ANewChartReplacesTheOneShown) {
   ASSERT_NE(graph, nullptr);
   NeutralityOptions options;
   options.SlidingOn = true;
-  ASSERT_TRUE(RunTajimaTest(d.window.Bench().Data(), d.window.Bench().Output(), d.platform,
-                            options));
+  ASSERT_TRUE(test::RunWith(CommandId::kTajima, d.window.Bench(), options).Stands);
   d.window.Refresh();
   EXPECT_TRUE(graph->isVisible());
   EXPECT_EQ(graph->Graph().GraphKind, 5);
@@ -281,11 +279,11 @@ TEST(GraphWindowTest, Screenshots) {
   chosen->Chooser()->hidePopup();
   NeutralityOptions neutral;
   neutral.SlidingOn = true;
-  ASSERT_TRUE(RunTajimaTest(wb.Data(), wb.Output(), d.platform, neutral));
+  ASSERT_TRUE(test::RunWith(CommandId::kTajima, wb, neutral).Stands);
   save("kind5_tajima");
-  ASSERT_TRUE(RunFuLiTest(wb.Data(), wb.Output(), d.platform, neutral));
+  ASSERT_TRUE(test::RunWith(CommandId::kFuLi, wb, neutral).Stands);
   save("kind6_fu_li");
-  ASSERT_TRUE(RunSizeChange(wb.Data(), wb.Output(), d.platform, SizeChangeOptions{}));
+  ASSERT_TRUE(test::RunWith(CommandId::kSizeChanges, wb, SizeChangeOptions{}).Stands);
   save("kind15_mismatch");
   wb.Output().ResetOutputs();
   wb.Output().SetGraph(Linkage(true));

@@ -11,6 +11,7 @@
 #include <QTableWidget>
 #include <QTimer>
 
+#include "shell/command_registry.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
 #include "ui/qt/grid_window.h"
@@ -97,7 +98,9 @@ TEST_F(MainWindowTest, DataInformationGoesToTheTextWindow) {
     dialog->reject();
   });
   EXPECT_EQ(window.ResultsPanelText(), "");
-  window.Bench().Output().ResultCode = 12;  // as if Fu and Li's tests had run before
+  // As if Fu and Li's tests had run before.
+  window.Bench().Output().ResultCode = 12;
+  window.Bench().Output().Labels = FindEntry(CommandId::kFuLiOutgroup)->Facts.Labels;
   window.Trigger("DataInformacion_Click");
   EXPECT_FALSE(window.Text()->windowTitle().contains("Fu and Li"));
   ASSERT_TRUE(window.Text()->isVisible());
@@ -116,6 +119,7 @@ TEST_F(MainWindowTest, SecondGridShowsWithItsCaptionAndGoesWithTheNextRun) {
   OutputChannel& channel = window.Bench().Output();
   channel.ResetOutputs();
   channel.ResultCode = 23;  // codon usage
+  channel.Labels = FindEntry(CommandId::kCodonUsage)->Facts.Labels;
   channel.Grid2.ColumnTitles = {"Codon", "Count"};
   channel.Grid2.Rows.push_back({"TTT", "4"});
   channel.ShowResult(kResultSecondGrid);

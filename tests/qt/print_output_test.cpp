@@ -7,6 +7,7 @@
 #include <fstream>
 
 #include "output/report_text.h"
+#include "shell/command_registry.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
 #include "ui/qt/main_window.h"
@@ -30,6 +31,7 @@ std::string Head(const std::string& path, size_t n) {
 void ShowReport(OutputChannel& channel, const std::string& text) {
   channel.ResetOutputs();
   channel.ResultCode = 2;
+  channel.Labels = FindEntry(CommandId::kDnaPolymorphism)->Facts.Labels;  // as the runner sets
   channel.AppendText(text);
   channel.ShowResult(kResultTextOnly);
 }
@@ -50,6 +52,7 @@ TEST(PrintOutput, FinalOnlyKeepsTheLastRowsOfALongGrid) {
   OutputChannel channel(p);
   channel.ResetOutputs();
   channel.ResultCode = 2;
+  channel.Labels = FindEntry(CommandId::kDnaPolymorphism)->Facts.Labels;
   for (int i = 1; i <= 250; ++i) channel.Grid1.Rows.push_back({"row" + std::to_string(i)});
   channel.ShowResult(kResultGridOnly);
   p.Answers.push_back(MsgAnswer::kYes);

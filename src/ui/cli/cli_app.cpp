@@ -5,14 +5,12 @@
 #include <ostream>
 
 #include "shell/workbench.h"
+#include "ui/cli/analysis_command.h"
 #include "ui/cli/cli_registry.h"
 #include "ui/cli/coalescent_command.h"
 #include "ui/cli/data_commands.h"
 #include "ui/cli/export_commands.h"
 #include "ui/cli/file_job.h"
-#include "ui/cli/neutrality_commands.h"
-#include "ui/cli/polymorphism_commands.h"
-#include "ui/cli/size_change_commands.h"
 #include "ui/cli/table_commands.h"
 #include "ui/cli/tool_commands.h"
 
@@ -28,9 +26,7 @@ int RunCli(int argc, char** argv, std::ostream& out, std::ostream& err) {
   AddTableCommands(registry);
   AddDataCommands(registry);
   AddExportCommands(registry);
-  AddPolymorphismCommands(registry);
-  AddNeutralityCommands(registry);
-  AddSizeChangeCommands(registry);
+  AddAnalysisCommands(registry);
   AddToolCommands(registry);
   AddCoalescentCommand(registry);
 

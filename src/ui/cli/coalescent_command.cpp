@@ -7,9 +7,9 @@
 #include "coalescent/coalescent_run.h"
 #include "coalescent/simulation_run.h"
 #include "coalescent/statistic_code.h"
-#include "shell/command_table.h"
-#include "shell/workbench.h"
 #include "output/json_text.h"
+#include "shell/command_registry.h"
+#include "shell/workbench.h"
 #include "ui/cli/analysis_command.h"
 #include "ui/cli/cli_registry.h"
 #include "ui/cli/console_platform.h"
@@ -48,8 +48,7 @@ std::string StatisticNames() {
 bool FormOf(const CoalescentFlags& flags, SimulationForm& form, std::ostream& err) {
   const StatisticEntry* e = FindStatisticByCliName(flags.statistic);
   if (e == nullptr) {
-    err << "Unknown statistic \"" << flags.statistic << "\"; one of: " << StatisticNames()
-        << "\n";
+    err << "Unknown statistic \"" << flags.statistic << "\"; one of: " << StatisticNames() << "\n";
     return false;
   }
   form.Statistic = e->Code;
@@ -81,21 +80,19 @@ int Run(const CoalescentFlags& flags, const CliStreams& s) {
   if (!FormOf(flags, form, s.err)) return kCliUsage;
   ConsolePlatform platform(s.err);
   if (const auto notice = ThetaFromSegSitesNotice(form.Given, form.Statistic))
-    platform.MessageBox(notice->Text, MsgIcon::kInformation, MsgButtons::kOk, notice->Title,
-                         false);
+    platform.MessageBox(notice->Text, MsgIcon::kInformation, MsgButtons::kOk, notice->Title, false);
   Workbench wb(platform);
   if (!BeginSession(flags.output, wb, platform)) return kCliRefused;
   CoalescentRun run;
   if (const auto refusal = RunCoalescent(wb.Output(), form, flags.threads, &run)) {
-    platform.MessageBox(refusal->Text, MsgIcon::kWarning, MsgButtons::kOk, refusal->Title,
-                         false);
+    platform.MessageBox(refusal->Text, MsgIcon::kWarning, MsgButtons::kOk, refusal->Title, false);
     wb.Output().CloseSessionFile();
     return kCliRefused;
   }
   if (!flags.json.empty()) {
     JsonText json;
     WriteJson(json, run);
-    if (!WriteJsonFile(flags.json, json, platform, s.out)) return kCliRefused;
+    if (!WriteJsonFile(flags.json, json.Text(), platform, s.out)) return kCliRefused;
   }
   return FinishOutput(flags.output, wb, "", s.out, flags.json != "-") ? kCliDone : kCliRefused;
 }
@@ -104,12 +101,12 @@ int Run(const CoalescentFlags& flags, const CliStreams& s) {
 
 void AddCoalescentCommand(CliRegistry& registry) {
   auto& flags = registry.Keep<CoalescentFlags>();
-  const CommandRow* row = FindCommand(kCoalescentCommand);
+  const CommandFacts& row = FindEntry(CommandId::kCoalescent)->Facts;
   CLI::App& app = registry.Add(
-      row->cli_name,
+      row.CliName,
       "Coalescent simulations: confidence limits and the probability of a value not above the "
       "observed one for a statistic under the neutral coalescent (command " +
-          std::to_string(kCoalescentCommand) + ", \"" + row->title + "\"). Needs no data file",
+          std::to_string(row.Number()) + ", \"" + row.Title + "\"). Needs no data file",
       [&flags](const CliStreams& s) { return Run(flags, s); });
   auto* theta = app.add_option("--theta", flags.theta,
                                "Theta per gene, above 0 and at most 1000 (default 12); \",\" or "

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "shell/command_table.h"
+#include "shell/command_registry.h"
 
 namespace ovelt {
 
@@ -24,20 +24,20 @@ std::string WithoutAccessMark(std::string text) {
 std::string CommandListing() {
   std::string text = Pad("No.", 6) + Pad("Command-line name", 26) + Pad("Title", 52) +
                      Pad("Checks before the dialog", 52) + "Dialog\n";
-  for (const CommandRow& row : CommandTable()) {
-    text += Pad(std::to_string(row.number), 6) + Pad(row.cli_name, 26) + Pad(row.title, 52) +
-            Pad(row.checks_text, 52) + row.dialog + "\n";
+  for (const CommandEntry& entry : Registry()) {
+    const CommandFacts& row = entry.Facts;
+    text += Pad(std::to_string(row.Number()), 6) + Pad(row.CliName, 26) + Pad(row.Title, 52) +
+            Pad(row.ChecksText, 52) + row.Dialog + "\n";
   }
   return text;
 }
 
-std::string CommandHelp(const CommandRow& row) {
-  return "Command " + std::to_string(row.number) + ": " + row.title + "\n" +
-         "  Menu:                     " + row.menu + " > " + WithoutAccessMark(row.menu_text) +
-         "  (handler " + row.handler + ")\n" +
-         "  Command-line name:         " + row.cli_name + "\n" +
-         "  Checks before the dialog:  " + row.checks_text + "\n" +
-         "  Dialog:                    " + row.dialog + "\n";
+std::string CommandHelp(const CommandFacts& row) {
+  return "Command " + std::to_string(row.Number()) + ": " + row.Title + "\n" +
+         "  Menu:                     " + row.Menu + " > " + WithoutAccessMark(row.MenuText) +
+         "  (handler " + row.Handler + ")\n" + "  Command-line name:         " + row.CliName +
+         "\n" + "  Checks before the dialog:  " + row.ChecksText + "\n" +
+         "  Dialog:                    " + row.Dialog + "\n";
 }
 
 }  // namespace ovelt

@@ -5,11 +5,11 @@
 
 namespace ovelt {
 
-struct CommandRow;
+struct CommandFacts;
 
 // One line per command: number, title, menu text, checks, dialog, command-line name.
 [[nodiscard]] std::string CommandListing();
 // The description of one command.
-[[nodiscard]] std::string CommandHelp(const CommandRow& row);
+[[nodiscard]] std::string CommandHelp(const CommandFacts& row);
 
 }  // namespace ovelt

@@ -4,7 +4,7 @@
 
 #include <ostream>
 
-#include "shell/command_table.h"
+#include "shell/command_registry.h"
 #include "shell/data_information.h"
 #include "shell/workbench.h"
 #include "ui/cli/cli_registry.h"
@@ -24,11 +24,10 @@ int RunInfo(const FileJob& job, const CliStreams& s) {
   OutputChannel& channel = wb.Output();
   channel.ResetOutputs();
   const std::string annotations = DataAnnotationsText(wb.Data());
-  channel.AppendText(DataInformationText(rows) +
-                     (annotations.empty() ? "" : "\r\n" + annotations));
+  channel.AppendText(DataInformationText(rows) + (annotations.empty() ? "" : "\r\n" + annotations));
   channel.Grid1.ColumnTitles = {"", kDataInformationTitle};
   for (const auto& [label, value] : rows) channel.Grid1.Rows.push_back({label, value});
-  channel.ResultTitle = kDataInformationTitle;
+  channel.Labels.Title = kDataInformationTitle;
   channel.ShowResult(kResultTextOnly);
   return FinishOutput(job.output, wb, kDataInformationTitle, s.out) ? kCliDone : kCliRefused;
 }
@@ -42,25 +41,25 @@ int RunSites(const FileJob& job, const SiteViewOptions& view, const CliStreams& 
 }
 
 int RunCheck(const std::string& command, const FileJob& job, const CliStreams& s) {
-  const CommandRow* row = FindCommand(command);
-  if (row == nullptr) {
+  const CommandEntry* found = FindEntry(command);
+  if (found == nullptr) {
     s.err << "Unknown command \"" << command << "\"; `ovelt commands` lists them.\n";
     return kCliUsage;
   }
   ConsolePlatform platform(s.err);
   Workbench wb(platform);
   if (!job.file.empty() && !OpenJob(job, wb, platform, s.err)) return kCliRefused;
-  const MenuEntry* entry = wb.Menus().FindCommand(row->number);
+  const CommandFacts* row = &found->Facts;
+  const MenuEntry* entry = wb.Menus().FindCommand(row->Number());
   if (entry == nullptr || !entry->enabled) {
-    s.err << "Ovelt:\nThe command \"" << row->title << "\" is not available "
-          << (wb.FileOpen() ? "while a data file is open" : "without an open data file")
-          << ".\n";
+    s.err << "Ovelt:\nThe command \"" << row->Title << "\" is not available "
+          << (wb.FileOpen() ? "while a data file is open" : "without an open data file") << ".\n";
     return kCliRefused;
   }
-  if (!wb.BeginCommand(row->number)) return kCliRefused;
-  s.out << "Command " << row->number << " \"" << row->title
-        << "\": the checks before its dialog (" << row->checks_text
-        << ") pass; its dialog is " << row->dialog << ".\n";
+  if (!wb.BeginCommand(row->Number())) return kCliRefused;
+  s.out << "Command " << row->Number() << " \"" << row->Title
+        << "\": the checks before its dialog (" << row->ChecksText << ") pass; its dialog is "
+        << row->Dialog << ".\n";
   wb.EndCommand();
   return kCliDone;
 }
@@ -85,11 +84,11 @@ void AddDataCommands(CliRegistry& registry) {
 
   auto& check_job = registry.Keep<FileJob>();
   auto& check_command = registry.Keep<std::string>();
-  CLI::App& check = registry.Add(
-      "check", "Run the checks a command makes before its dialog opens (refusals)",
-      [&check_job, &check_command](const CliStreams& s) {
-        return RunCheck(check_command, check_job, s);
-      });
+  CLI::App& check =
+      registry.Add("check", "Run the checks a command makes before its dialog opens (refusals)",
+                   [&check_job, &check_command](const CliStreams& s) {
+                     return RunCheck(check_command, check_job, s);
+                   });
   check.add_option("COMMAND", check_command, "Command number, name or title")->required();
   check.add_option("FILE", check_job.file, "Alignment file");
   AddDataOptions(check, check_job.data);

@@ -28,38 +28,38 @@ struct PendingOptionFlags {
   std::vector<SetName> sets;
 };
 
-class OptionFlagBinder {
+class OptionFlagBinder final : public OptionVisitor {
  public:
   OptionFlagBinder(CLI::App& app, PendingOptionFlags& pending) : app_(app), pending_(pending) {}
 
-  void Region(int32_t& from, int32_t& to) {
+  void Region(int32_t& from, int32_t& to) override {
     app_.add_option("--from", from, "From site: first site of the region (default 1)");
     app_.add_option("--to", to, "to: last site of the region (default the last site)");
     pending_.region_from = &from;
     pending_.region_to = &to;
   }
-  void SetIndex(int16_t& index, const OptionField& field) {
+  void SetIndex(int16_t& index, const OptionField& field) override {
     auto name = std::make_shared<std::string>();
     app_.add_option("--" + field.key, *name, field.help + " (a set named with --set-def)");
     pending_.sets.push_back({&index, name, field.key});
   }
-  void Flag(bool& value, const OptionField& field) {
+  void Flag(bool& value, const OptionField& field) override {
     app_.add_flag("--" + field.key, value, Describe(field));
   }
-  void Integer(int32_t& value, const OptionField& field, int64_t, int64_t) {
+  void Integer(int32_t& value, const OptionField& field, int64_t, int64_t) override {
     app_.add_option("--" + field.key, value, Describe(field))->capture_default_str();
   }
-  void Real(double& value, const OptionField& field, double, double) {
+  void Real(double& value, const OptionField& field, double, double) override {
     app_.add_option("--" + field.key, value, Describe(field))->capture_default_str();
   }
   void Choice(int16_t& value, const OptionField& field, const std::vector<std::string>& texts,
-              int16_t first_value) {
+              int16_t first_value) override {
     std::string help = Describe(field) + ":";
     for (size_t i = 0; i < texts.size(); ++i)
       help += " " + std::to_string(first_value + static_cast<int>(i)) + " \"" + texts[i] + "\"";
     app_.add_option("--" + field.key, value, help)->capture_default_str();
   }
-  void Text(std::string& value, const OptionField& field) {
+  void Text(std::string& value, const OptionField& field) override {
     app_.add_option("--" + field.key, value, Describe(field));
   }
 

@@ -67,7 +67,7 @@ bool BeginSession(const OutputOptions& o, Workbench& wb, ConsolePlatform&) {
 bool FinishOutput(const OutputOptions& o, Workbench& wb, const std::string& title,
                   std::ostream& out, bool print_text) {
   OutputChannel& channel = wb.Output();
-  if (channel.ResultTitle.empty()) channel.ResultTitle = title;
+  if (channel.Labels.Title.empty()) channel.Labels.Title = title;
   if (print_text) {
     out << WithNewlines(channel.TextBuffer);
     out.flush();

@@ -6,16 +6,16 @@
 
 #include "core/region_check.h"
 #include "core/site_scan.h"
-#include "shell/workbench.h"
 #include "output/format_mask.h"
+#include "shell/workbench.h"
 
 namespace ovelt {
 
 namespace {
 
-const std::array<const char*, 6> kClassNames = {
-    "monomorphic", "singleton", "parsimony informative", "three variants", "four variants",
-    "gap or missing data"};
+const std::array<const char*, 6> kClassNames = {"monomorphic",           "singleton",
+                                                "parsimony informative", "three variants",
+                                                "four variants",         "gap or missing data"};
 
 }  // namespace
 
@@ -38,51 +38,51 @@ bool RunSiteView(Workbench& wb, const SiteViewOptions& o) {
   }
   const int32_t from = o.from == 0 ? 1 : o.from;
   const int32_t to = o.to == 0 ? d.NumSites : o.to;
-  d.SelSites = d.NumSites;
-  if (!RegionIsValid(from, to, d.SelSites)) {
+  if (!RegionIsValid(from, to, d.NumSites)) {
     wb.Ui().MessageBox(kInvalidSelection, MsgIcon::kWarning);
     return false;
   }
   OutputChannel& channel = wb.Output();
   channel.ResetOutputs();
-  d.Region.RegionFrom = from;
-  d.Region.RegionTo = to;
-  d.SelSet1 = set;
-  SelectOneSet(d, set);
-  if (d.SelCount1 < 1) {
+  d.Region = {from, to};
+  const Selection sel = SelectOneSet(d, set, {from, to});
+  if (sel.SelCount1 < 1) {
     wb.Ui().MessageBox(TooFewSequencesMessage(1), MsgIcon::kWarning);
     return false;
   }
 
-  const int32_t net = NetSites(d, from, to);
-  const int32_t segregating = d.SegSites;
-  const double diversity_sum = d.SumSiteDiversity;
+  const NetSiteCount count = CountNetSites(sel, from, to);
+  const int32_t net = count.Net;
+  const int32_t segregating = count.SegSites;
+  const double diversity_sum = count.SumSiteDiversity;
   std::array<int32_t, 6> counts{};
-  for (int32_t s = from; s <= to; ++s) ++counts[static_cast<size_t>(d.SelSiteClass1[static_cast<size_t>(s)])];
+  for (int32_t s = from; s <= to; ++s)
+    ++counts[static_cast<size_t>(sel.SelSiteClass1[static_cast<size_t>(s)])];
 
-  std::string text = ReportHead(d, net);
+  std::string text = ReportHead(sel, net);
   text += " Site classes in the region:\r\n";
   for (size_t c = 0; c < counts.size(); ++c)
     text += "    " + std::to_string(c) + " " + Format(kClassNames[c], "!@@@@@@@@@@@@@@@@@@@@@@") +
             Format(counts[c], "@@@@@@@@@") + "\r\n";
   text += " Segregating sites: " + StrNum(segregating) + "\r\n";
-  text += " Extra mutations (three and four variants): " +
-          StrNum(ExtraMutations(d, from, to)) + "\r\n";
-  text += " Sum of per-site gene diversities: " + Format(diversity_sum, "0.00000") + "\r\n";
-  text += " Nucleotide diversity per site: " + Format(DiversityPerSite(diversity_sum, net), "0.00000") +
+  text += " Extra mutations (three and four variants): " + StrNum(ExtraMutations(sel, from, to)) +
           "\r\n";
-  text += " Largest group of identical sequences: " + StrNum(BuscaLineasIdenticas(d, from, to)) +
+  text += " Sum of per-site gene diversities: " + Format(diversity_sum, "0.00000") + "\r\n";
+  text +=
+      " Nucleotide diversity per site: " + Format(DiversityPerSite(diversity_sum, net), "0.00000") +
+      "\r\n";
+  text += " Largest group of identical sequences: " + StrNum(BuscaLineasIdenticas(sel, from, to)) +
           "\r\n";
   channel.AppendText(text);
 
   channel.Grid1.ColumnTitles = {"Site", "Class", "Diversity", "CodonPosition", "CodingFlag"};
   for (int32_t s = from; s <= to; ++s) {
     const auto i = static_cast<size_t>(s);
-    channel.Grid1.Rows.push_back({std::to_string(s), std::to_string(d.SelSiteClass1[i]),
-                                  Format(d.SelSiteDiversity1[i], "0.00000"),
+    channel.Grid1.Rows.push_back({std::to_string(s), std::to_string(sel.SelSiteClass1[i]),
+                                  Format(sel.SelSiteDiversity1[i], "0.00000"),
                                   std::to_string(d.CodonPosition[i]), d.CodingFlag[i]});
   }
-  channel.ResultTitle = "Site Classes";
+  channel.Labels.Title = "Site Classes";
   channel.ShowResult(kResultTextAndGrid);
   return true;
 }

@@ -5,7 +5,7 @@
 #include <ostream>
 
 #include "core/genetic_code.h"
-#include "shell/command_table.h"
+#include "shell/command_registry.h"
 #include "shell/workbench.h"
 #include "ui/cli/cli_registry.h"
 #include "ui/cli/command_listing.h"
@@ -24,12 +24,12 @@ void AddTableCommands(CliRegistry& registry) {
   registry
       .Add("help", "Describe one command of the table",
            [&key](const CliStreams& s) {
-             const CommandRow* row = FindCommand(key);
+             const CommandEntry* row = FindEntry(key);
              if (row == nullptr) {
                s.err << "Unknown command \"" << key << "\"; `ovelt commands` lists them.\n";
                return kCliUsage;
              }
-             s.out << CommandHelp(*row);
+             s.out << CommandHelp(row->Facts);
              return kCliDone;
            })
       .add_option("COMMAND", key, "Command number, name or title")

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "shell/command_table.h"
-#include "shell/workbench.h"
 #include "output/json_text.h"
+#include "shell/command_registry.h"
+#include "shell/workbench.h"
 #include "stats/fs_statistic.h"
 #include "tools/calculator.h"
 #include "tools/calculator_keys.h"
@@ -55,7 +55,7 @@ int RunTool(const ToolOutput& out, const CliStreams& s,
   if (!out.json.empty()) {
     JsonText json;
     write_json(json, result);
-    if (!WriteJsonFile(out.json, json, platform, s.out)) return kCliRefused;
+    if (!WriteJsonFile(out.json, json.Text(), platform, s.out)) return kCliRefused;
   }
   return FinishOutput(out.output, wb, "", s.out, out.json != "-") ? kCliDone : kCliRefused;
 }
@@ -72,11 +72,11 @@ void AddIndependence(CliRegistry& registry) {
     ToolOutput out;
   };
   auto& state = registry.Keep<State>();
-  const CommandRow* row = FindCommand(kIndependenceCommand);
+  const CommandFacts& row = FindEntry(CommandId::kIndependence)->Facts;
   CLI::App& app = registry.Add(
-      row->cli_name,
+      row.CliName,
       "Fisher's exact test, chi-square and G tests of a 2 x 2 table a b / c d (command " +
-          std::to_string(kIndependenceCommand) + ", \"" + row->title + "\")",
+          std::to_string(row.Number()) + ", \"" + row.Title + "\")",
       [&state](const CliStreams& s) {
         return RunTool<IndependenceRun>(
             state.out, s,
@@ -119,11 +119,11 @@ void AddDistributions(CliRegistry& registry) {
     std::function<int(const CliStreams&)> chosen;
   };
   auto& state = registry.Keep<State>();
-  const CommandRow* row = FindCommand(kDistributionsCommand);
+  const CommandFacts& row = FindEntry(CommandId::kDistributions)->Facts;
   CLI::App& app = registry.Add(
-      row->cli_name,
+      row.CliName,
       "Binomial, hypergeometric, Poisson and Ewens probabilities of typed values (command " +
-          std::to_string(kDistributionsCommand) + ", \"" + row->title + "\")",
+          std::to_string(row.Number()) + ", \"" + row.Title + "\")",
       [&state](const CliStreams& s) { return state.chosen ? state.chosen(s) : kCliUsage; });
   app.alias("distribution");
   app.require_subcommand(1);

@@ -23,7 +23,9 @@ namespace ovelt {
 
 namespace {
 
-QString Q(const std::string& text) { return QString::fromStdString(text); }
+QString Q(const std::string& text) {
+  return QString::fromStdString(text);
+}
 
 const char* const kBases[] = {"T", "C", "A", "G"};
 
@@ -50,9 +52,13 @@ TableNameDialog::TableNameDialog(Platform& platform, QWidget* parent)
   layout->addWidget(buttons);
 }
 
-std::string TableNameDialog::Name() const { return name_->text().toStdString(); }
+std::string TableNameDialog::Name() const {
+  return name_->text().toStdString();
+}
 
-void TableNameDialog::SetName(const std::string& name) { name_->setText(Q(name)); }
+void TableNameDialog::SetName(const std::string& name) {
+  name_->setText(Q(name));
+}
 
 void TableNameDialog::accept() {
   if (auto refusal = ValidatePrefTableName(Name())) {
@@ -69,11 +75,10 @@ CodonStatusDialog::CodonStatusDialog(const std::string& cell_text, QWidget* pare
   setWindowTitle(Q("Codon " + cell_text));
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(new QLabel(Q("Preference Status of " + cell_text.substr(0, 3) + ":")));
-  const std::pair<const char*, CodonChoice> options[] = {
-      {"Preferred", CodonChoice::kPreferred},
-      {"Unknown", CodonChoice::kUnknown},
-      {"Unpreferred", CodonChoice::kUnpreferred},
-      {"Cancel", CodonChoice::kCancel}};
+  const std::pair<const char*, CodonChoice> options[] = {{"Preferred", CodonChoice::kPreferred},
+                                                         {"Unknown", CodonChoice::kUnknown},
+                                                         {"Unpreferred", CodonChoice::kUnpreferred},
+                                                         {"Cancel", CodonChoice::kCancel}};
   for (const auto& [text, choice] : options) {
     auto* button = new QPushButton(text);
     button->setObjectName(text);
@@ -94,11 +99,11 @@ void CodonStatusDialog::Choose(CodonChoice choice) {
 
 // ---- TBPrefUnPref --------------------------------------------------------------------------
 
-CodonTableEditor::CodonTableEditor(ActiveData& data, Platform& platform, QWidget* parent)
+CodonTableEditor::CodonTableEditor(ActiveData& active, Platform& platform, QWidget* parent)
     : QDialog(parent),
-      data_(data),
+      data_(active),
       platform_(platform),
-      session_(data.PrefTables, data.Format.GeneticCodeIndex, data.PrefTableName) {
+      session_(active.PrefTables, active.Format.GeneticCodeIndex, active.PrefTableName) {
   setWindowTitle("Preferred / Unpreferred Codons Table");
   AskName = [this]() -> std::optional<std::string> {
     TableNameDialog dialog(platform_, this);
@@ -148,9 +153,8 @@ CodonTableEditor::CodonTableEditor(ActiveData& data, Platform& platform, QWidget
   grid_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   grid_->verticalHeader()->setDefaultSectionSize(22);
   grid_->setMinimumSize(460, 16 * 22 + 30);
-  connect(grid_, &QTableWidget::cellClicked, this, [this](int row, int column) {
-    ClickCodon((row / 4) * 16 + column * 4 + row % 4 + 1);
-  });
+  connect(grid_, &QTableWidget::cellClicked, this,
+          [this](int row, int column) { ClickCodon((row / 4) * 16 + column * 4 + row % 4 + 1); });
   layout->addWidget(grid_, 1);
 
   legend_ = new QLabel;
@@ -284,7 +288,8 @@ void CodonTableEditor::SaveTableFile() {
   const std::optional<std::string> path = platform_.SaveFileName(
       "Save Pref-UnPref Table: " + session_.SelectedName(), kOvpFilter, "*.ovp");
   if (!path) return;
-  if (!WriteOvpFile(*path, session_.Shown())) platform_.MessageBox(kErrorInSaving, MsgIcon::kCritical);
+  if (!WriteOvpFile(*path, session_.Shown()))
+    platform_.MessageBox(kErrorInSaving, MsgIcon::kCritical);
 }
 
 void CodonTableEditor::ClickCodon(int index) {

@@ -40,7 +40,9 @@ class GraphCanvas : public QWidget {
 
 namespace {
 
-QString Q(const std::string& text) { return QString::fromStdString(text); }
+QString Q(const std::string& text) {
+  return QString::fromStdString(text);
+}
 
 // The data the print head names: the file, the date and the sequences the run used.
 GraphPrintFacts PrintFacts(Workbench& wb, int16_t kind) {
@@ -49,12 +51,11 @@ GraphPrintFacts PrintFacts(Workbench& wb, int16_t kind) {
   facts.FilePath = ad.FilePath;
   facts.Date = wb.Ui().Now();
   facts.GraphKind = kind;
-  if (ad.SelSet1 > 0 && static_cast<size_t>(ad.SelSet1) < ad.SequenceSets.size())
-    facts.PopulationName = ad.SequenceSets[static_cast<size_t>(ad.SelSet1)].nombre();
-  facts.SequencesUsed = ad.SelCount1;
-  if (ad.SelSet2 > 0 && static_cast<size_t>(ad.SelSet2) < ad.SequenceSets.size())
-    facts.SecondName = ad.SequenceSets[static_cast<size_t>(ad.SelSet2)].nombre();
-  facts.SecondSequences = ad.SelCount2;
+  const UsedSequences& used = wb.Output().Used;
+  facts.PopulationName = used.FirstSet;
+  facts.SequencesUsed = used.FirstCount;
+  facts.SecondName = used.SecondSet;
+  facts.SecondSequences = used.SecondCount;
   return facts;
 }
 
@@ -149,7 +150,9 @@ void GraphWindow::Clear() {
   canvas_->update();
 }
 
-QImage GraphWindow::Image(QSize size) const { return RenderGraphImage(picture_, size, palette_); }
+QImage GraphWindow::Image(QSize size) const {
+  return RenderGraphImage(picture_, size, palette_);
+}
 
 bool GraphWindow::SaveGraph() {
   const auto path = workbench_.Ui().SaveFileName(kSaveGraphTitle, kSaveGraphFilter, "*.bmp");

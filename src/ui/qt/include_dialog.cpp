@@ -50,10 +50,10 @@ IncludeDialog::IncludeDialog(Workbench& workbench, QWidget* parent)
       sets_->addItem(QString::fromStdString(d.SequenceSets[static_cast<size_t>(s)].nombre()));
   }
   connect(sets_, &QComboBox::activated, this, [this](int index) {
-    const ActiveData& data = workbench_.Data();
-    if (index < 1 || index > data.SetCount()) return;
+    const ActiveData& ad = workbench_.Data();
+    if (index < 1 || index > ad.SetCount()) return;
     SelectAll(false);
-    for (double member : data.SequenceSets[static_cast<size_t>(index)].members()) {
+    for (double member : ad.SequenceSets[static_cast<size_t>(index)].members()) {
       const auto seq = static_cast<size_t>(member);
       if (seq >= 1 && seq <= boxes_.size()) boxes_[seq - 1]->setChecked(true);
     }
@@ -101,8 +101,8 @@ void IncludeDialog::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Q || event->key() == Qt::Key_A) {
     for (size_t i = 0; i < boxes_.size(); ++i) {
       if (!boxes_[i]->hasFocus()) continue;
-      const size_t next = event->key() == Qt::Key_Q ? (i == 0 ? 0 : i - 1)
-                                                     : std::min(i + 1, boxes_.size() - 1);
+      const size_t next =
+          event->key() == Qt::Key_Q ? (i == 0 ? 0 : i - 1) : std::min(i + 1, boxes_.size() - 1);
       boxes_[next]->setFocus();
       return;
     }

@@ -12,7 +12,6 @@
 #include <QToolBar>
 
 #include "core/gap_settings.h"
-#include "output/analysis_titles.h"
 #include "ui/qt/analysis_dialogs.h"
 #include "ui/qt/data_info_window.h"
 #include "ui/qt/data_viewer_handlers.h"
@@ -33,12 +32,14 @@ namespace ovelt {
 
 namespace {
 
-QString Q(const std::string& text) { return QString::fromStdString(text); }
+QString Q(const std::string& text) {
+  return QString::fromStdString(text);
+}
 
-const char* const kMenuOrder[] = {"File", "Data", "Analysis", "Overview", "Generate",
-                                  "Display", "Tools", "Help"};
-const char* const kMenuTitles[] = {"&File", "&Data", "&Analysis", "&Overview", "&Generate",
-                                   "Dis&play", "&Tools", "&Help"};
+const char* const kMenuOrder[] = {"File",     "Data",    "Analysis", "Overview",
+                                  "Generate", "Display", "Tools",    "Help"};
+const char* const kMenuTitles[] = {"&File",     "&Data",    "&Analysis", "&Overview",
+                                   "&Generate", "Dis&play", "&Tools",    "&Help"};
 
 }  // namespace
 
@@ -61,9 +62,7 @@ MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* par
 
   // The date and time in the status bar, refreshed by a timer: "dd/mm/yy hh:mm".
   timer_ = new QTimer(this);
-  auto tick = [this] {
-    clock_->setText(QDateTime::currentDateTime().toString("dd/MM/yy hh:mm"));
-  };
+  auto tick = [this] { clock_->setText(QDateTime::currentDateTime().toString("dd/MM/yy hh:mm")); };
   connect(timer_, &QTimer::timeout, this, tick);
   timer_->start(30000);
   tick();
@@ -80,7 +79,8 @@ MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* par
   BuildMenus();
   BuildToolBar();
   // The frame in the middle of the window shows the program and its version.
-  auto* version = new QLabel(QString("Ovelt Workbench\n") + kVersionText + "  (" + kVersionDate + ")");
+  auto* version =
+      new QLabel(QString("Ovelt Workbench\n") + kVersionText + "  (" + kVersionDate + ")");
   version->setObjectName("versionFrame");
   version->setAlignment(Qt::AlignCenter);
   version->setFrameShape(QFrame::StyledPanel);
@@ -139,19 +139,29 @@ void MainWindow::BuildMenus() {
   }
 }
 
-void MainWindow::BuildToolBar() { BuildMainToolBar(*this); }
+void MainWindow::BuildToolBar() {
+  BuildMainToolBar(*this);
+}
 
 QAction* MainWindow::ActionFor(const std::string& handler) const {
   auto it = actions_.find(handler);
   return it == actions_.end() ? nullptr : it->second;
 }
 
-TextWindow* MainWindow::Text() const { return text_; }
-GridWindow* MainWindow::Grid() const { return grid_; }
+TextWindow* MainWindow::Text() const {
+  return text_;
+}
+GridWindow* MainWindow::Grid() const {
+  return grid_;
+}
 
-QString MainWindow::StatusText() const { return status_->text(); }
+QString MainWindow::StatusText() const {
+  return status_->text();
+}
 
-QString MainWindow::ResultsPanelText() const { return results_->text(); }
+QString MainWindow::ResultsPanelText() const {
+  return results_->text();
+}
 
 void MainWindow::Trigger(const std::string& handler) {
   auto it = handlers_.find(handler);
@@ -188,29 +198,28 @@ void MainWindow::Refresh() {
 void MainWindow::ShowResults() {
   const OutputChannel& channel = workbench_.Output();
   const OutputWindows& windows = channel.Windows();
-  const std::string title = channel.ResultTitle.empty() ? AnalysisTitle(channel.ResultCode)
-                                                        : channel.ResultTitle;
+  const ResultLabels& labels = channel.Labels;
+  const std::string& title = labels.Title;
   const bool any_results = windows.Text || windows.Grid || windows.Grid2 || windows.Graph;
   results_->setText(any_results ? Q(title) : QString());
   if (windows.Text) {
-    text_->SetReport(Q(TextWindowCaption(channel.ResultCode, workbench_.Data().FileName)),
+    text_->SetReport(Q(labels.TextCaption + " - " + workbench_.Data().FileName),
                      channel.TextBuffer);
     text_->show();
   } else {
     text_->hide();
   }
   if (windows.Grid) {
-    grid_->SetGrid(Q(channel.ResultCode != 0 ? GridWindowCaption(channel.ResultCode)
-                                              : "Output. Table of: " + title),
-                   channel.Grid1,
-                   channel.GridRows);
+    const std::string caption = !labels.GridCaption.empty() ? labels.GridCaption
+                                : channel.ResultCode != 0   ? std::string("Output. Grid")
+                                                            : "Output. Table of: " + title;
+    grid_->SetGrid(Q(caption), channel.Grid1, channel.GridRows);
     grid_->show();
   } else {
     grid_->hide();
   }
   if (windows.Grid2) {
-    grid2_->SetGrid(Q(SecondGridWindowCaption(channel.ResultCode)), channel.Grid2,
-                    channel.GridRows);
+    grid2_->SetGrid(Q(labels.SecondGridCaption), channel.Grid2, channel.GridRows);
     grid2_->show();
   } else {
     grid2_->hide();
@@ -219,16 +228,19 @@ void MainWindow::ShowResults() {
 
 void MainWindow::ShowDataInformation() {
   const std::vector<InfoRow> rows = DataInformationRows(workbench_.Data());
-  DataInfoWindow window(rows, [this, rows] {
-    OutputChannel& channel = workbench_.Output();
-    channel.ResetOutputs();
-    // Not the output of an analysis: no earlier run's caption or save path may stick to it.
-    channel.ResultCode = 0;
-    channel.AppendText(DataInformationText(rows));
-    channel.ResultTitle = kDataInformationTitle;
-    channel.ShowResult(kResultTextOnly);
-    Refresh();
-  }, this);
+  DataInfoWindow window(
+      rows,
+      [this, rows] {
+        OutputChannel& channel = workbench_.Output();
+        channel.ResetOutputs();
+        // Not the output of an analysis: no earlier run's caption or save path may stick to it.
+        channel.ResultCode = 0;
+        channel.AppendText(DataInformationText(rows));
+        channel.Labels.Title = kDataInformationTitle;
+        channel.ShowResult(kResultTextOnly);
+        Refresh();
+      },
+      this);
   window.exec();
 }
 

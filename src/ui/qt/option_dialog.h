@@ -50,18 +50,18 @@ class OptionDialog : public QDialog {
 };
 
 // Builds the controls of an options struct on an OptionDialog.
-class QtOptionBuilder {
+class QtOptionBuilder final : public OptionVisitor {
  public:
   QtOptionBuilder(OptionDialog& dialog, const ActiveData& data) : dialog_(dialog), data_(data) {}
 
-  void Region(int32_t& from, int32_t& to);
-  void SetIndex(int16_t& index, const OptionField& field);
-  void Flag(bool& value, const OptionField& field);
-  void Integer(int32_t& value, const OptionField& field, int64_t min, int64_t max);
-  void Real(double& value, const OptionField& field, double min, double max);
+  void Region(int32_t& from, int32_t& to) override;
+  void SetIndex(int16_t& index, const OptionField& field) override;
+  void Flag(bool& value, const OptionField& field) override;
+  void Integer(int32_t& value, const OptionField& field, int64_t min, int64_t max) override;
+  void Real(double& value, const OptionField& field, double min, double max) override;
   void Choice(int16_t& value, const OptionField& field, const std::vector<std::string>& texts,
-              int16_t first_value);
-  void Text(std::string& value, const OptionField& field);
+              int16_t first_value) override;
+  void Text(std::string& value, const OptionField& field) override;
 
  private:
   OptionDialog& dialog_;

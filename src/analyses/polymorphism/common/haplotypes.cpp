@@ -36,29 +36,28 @@ void HaplotypeDiversity(HaplotypeStats& stats, int32_t n) {
   }
   const double nd = n;
   stats.Hd = (1.0 - q2) * nd / (nd - 1.0);
-  stats.VarHd = (2.0 / (nd * (nd - 1.0))) *
-                (2.0 * (nd - 2.0) * (q3 - q2 * q2) + q2 - q2 * q2);
+  stats.VarHd = (2.0 / (nd * (nd - 1.0))) * (2.0 * (nd - 2.0) * (q3 - q2 * q2) + q2 - q2 * q2);
 }
 
-HaplotypeStats ComputeHaplotypes(const ActiveData& ad, int32_t from, int32_t to,
+HaplotypeStats ComputeHaplotypes(const Selection& sel, int32_t from, int32_t to,
                                  const PolyGauge& gauge) {
-  const int32_t n = ad.SelOutCount;
-  const std::vector<int32_t> sites = PolymorphicSites(ad, from, to);
+  const int32_t n = sel.SelOutCount;
+  const std::vector<int32_t> sites = PolymorphicSites(sel, from, to);
   HaplotypeStats stats;
   stats.HaplotypeOf.assign(static_cast<size_t>(n) + 1, 0);
-  std::vector<int32_t> leader;           // first sequence of each haplotype
-  std::vector<int32_t> next_same_hash;   // chain of haplotypes that share a hash
+  std::vector<int32_t> leader;          // first sequence of each haplotype
+  std::vector<int32_t> next_same_hash;  // chain of haplotypes that share a hash
   std::unordered_map<uint64_t, int32_t> first_with_hash;
   first_with_hash.reserve(static_cast<size_t>(n));
   int last_percent = 0;
   for (int32_t seq = 1; seq <= n; ++seq) {
-    const char* row = ad.SelMatrix1.sequence(seq);
+    const char* row = sel.SelMatrix1.sequence(seq);
     const uint64_t hash = RowHash(row, sites);
     auto it = first_with_hash.try_emplace(hash, -1).first;
     int32_t found = -1;
     int32_t last_in_chain = -1;
     for (int32_t h = it->second; h >= 0; h = next_same_hash[static_cast<size_t>(h)]) {
-      if (SameRow(ad.SelMatrix1.sequence(leader[static_cast<size_t>(h)]), row, sites)) {
+      if (SameRow(sel.SelMatrix1.sequence(leader[static_cast<size_t>(h)]), row, sites)) {
         found = h;
         break;
       }

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "analyses/polymorphism/common/poly_gauge.h"
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
@@ -27,7 +27,7 @@ struct HaplotypeStats {
 
 // Over from..to of the first selection (`SelOutCount` sequences). The gauge rises from 0 to 100
 // as the sequences are sorted into haplotypes.
-[[nodiscard]] HaplotypeStats ComputeHaplotypes(const ActiveData& ad, int32_t from, int32_t to,
+[[nodiscard]] HaplotypeStats ComputeHaplotypes(const Selection& sel, int32_t from, int32_t to,
                                                const PolyGauge& gauge = {});
 
 // Hd and VarHd of `stats.Members` among `n` sequences (n of 2 or more).

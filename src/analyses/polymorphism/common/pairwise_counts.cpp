@@ -15,11 +15,16 @@ constexpr size_t kBatchCarriers = size_t{1} << 15;
 
 uint8_t CellCode(char cell) {
   switch (cell) {
-    case 'A': return 0;
-    case 'C': return 1;
-    case 'G': return 2;
-    case 'T': return 3;
-    default: return kCodeMissing;
+    case 'A':
+      return 0;
+    case 'C':
+      return 1;
+    case 'G':
+      return 2;
+    case 'T':
+      return 3;
+    default:
+      return kCodeMissing;
   }
 }
 
@@ -57,8 +62,7 @@ int64_t PairCounts::at(int32_t i, int32_t j) const {
   if (!columns_.empty()) throw std::logic_error("PairCounts read before Finish");
   int32_t a = i - 1, b = j - 1;
   if (a > b) std::swap(a, b);
-  return shared_ + own_[static_cast<size_t>(a)] + own_[static_cast<size_t>(b)] +
-         pair_[Index(a, b)];
+  return shared_ + own_[static_cast<size_t>(a)] + own_[static_cast<size_t>(b)] + pair_[Index(a, b)];
 }
 
 void PairCounts::AddColumn(const uint8_t* codes, const PairRule& rule) {
@@ -136,13 +140,13 @@ void PairCounts::Finish() {
   carriers_.clear();
 }
 
-PairCounts PairwiseDifferences(const ActiveData& ad, int32_t from, int32_t to,
+PairCounts PairwiseDifferences(const Selection& sel, int32_t from, int32_t to,
                                const PolyGauge& gauge) {
-  const std::vector<int32_t> sites = PolymorphicSites(ad, from, to);
-  PairCounts counts(ad.SelOutCount);
+  const std::vector<int32_t> sites = PolymorphicSites(sel, from, to);
+  PairCounts counts(sel.SelOutCount);
   size_t done = 0;
   int last_percent = 0;
-  ForEachColumn(ad, sites, [&](int32_t, const uint8_t* codes) {
+  ForEachColumn(sel, sites, [&](int32_t, const uint8_t* codes) {
     counts.AddColumn(codes, DiffersRule());
     ++done;
     const int percent = static_cast<int>(done * 100 / sites.size());

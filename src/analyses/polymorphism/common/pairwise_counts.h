@@ -17,7 +17,7 @@
 #include <vector>
 
 #include "analyses/polymorphism/common/poly_gauge.h"
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
@@ -59,9 +59,9 @@ class PairCounts {
     const PairRule* rule;
   };
   int32_t n_ = 0;
-  int64_t shared_ = 0;           // added to every pair
-  std::vector<int64_t> own_;     // added to every pair of a sequence
-  std::vector<int32_t> pair_;    // upper triangle of corrections
+  int64_t shared_ = 0;         // added to every pair
+  std::vector<int64_t> own_;   // added to every pair of a sequence
+  std::vector<int32_t> pair_;  // upper triangle of corrections
   // Columns waiting for Finish, with their carriers of other states than the common one.
   std::vector<Column> columns_;
   std::vector<Carrier> carriers_;
@@ -71,14 +71,14 @@ class PairCounts {
 // each sequence is read along its own cells: calls visit(site, codes) for each site in order,
 // `codes` holding sequences 1..n at [0..n-1].
 template <class Visit>
-void ForEachColumn(const ActiveData& ad, const std::vector<int32_t>& sites, Visit&& visit) {
-  const int32_t n = ad.SelOutCount;
+void ForEachColumn(const Selection& sel, const std::vector<int32_t>& sites, Visit&& visit) {
+  const int32_t n = sel.SelOutCount;
   constexpr size_t kBlock = 256;
   std::vector<uint8_t> block(kBlock * static_cast<size_t>(n > 0 ? n : 1));
   for (size_t first = 0; first < sites.size(); first += kBlock) {
     const size_t count = sites.size() - first < kBlock ? sites.size() - first : kBlock;
     for (int32_t seq = 1; seq <= n; ++seq) {
-      const char* row = ad.SelMatrix1.sequence(seq);
+      const char* row = sel.SelMatrix1.sequence(seq);
       for (size_t b = 0; b < count; ++b)
         block[b * static_cast<size_t>(n) + static_cast<size_t>(seq - 1)] =
             CellCode(row[sites[first + b] - 1]);
@@ -89,7 +89,7 @@ void ForEachColumn(const ActiveData& ad, const std::vector<int32_t>& sites, Visi
 
 // d(i, j): the sites of class 1 to 4 in from..to of the first selection at which sequences i
 // and j differ (sites of class 0 and 5 are skipped). The gauge rises from 0 to 100.
-[[nodiscard]] PairCounts PairwiseDifferences(const ActiveData& ad, int32_t from, int32_t to,
+[[nodiscard]] PairCounts PairwiseDifferences(const Selection& sel, int32_t from, int32_t to,
                                              const PolyGauge& gauge = {});
 
 }  // namespace ovelt

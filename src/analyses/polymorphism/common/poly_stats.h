@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
@@ -16,19 +16,27 @@ struct PolyStats {
   float Mutations = 0;    // Eta
   double AvgDiffs = 0.0;  // k
   double PiValue = 0.0;   // Pi
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Integer("net_sites", NetSites);
+    v.Integer("segregating_sites", SegSites);
+    v.Integer("mutations", static_cast<int64_t>(Mutations));
+    v.Number("k", AvgDiffs);
+    v.Number("pi", PiValue);
+  }
 };
 
 struct SegregatingCounts {
-  int32_t NetSites = 0;        // L: sites of the region without gaps or missing data
-  int32_t SegSites = 0;        // S: sites with positive gene diversity
-  double SumDiversity = 0.0;   // k: the summed gene diversities
+  int32_t NetSites = 0;       // L: sites of the region without gaps or missing data
+  int32_t SegSites = 0;       // S: sites with positive gene diversity
+  double SumDiversity = 0.0;  // k: the summed gene diversities
 };
 
 // Walks from..to of the first selection (`SelSiteClass1`, `SelSiteDiversity1`).
-[[nodiscard]] SegregatingCounts SegregatingTotals(const ActiveData& ad, int32_t from,
-                                                  int32_t to);
+[[nodiscard]] SegregatingCounts SegregatingTotals(const Selection& sel, int32_t from, int32_t to);
 
 // L, S, k, Pi and Eta = S + (class-3 sites) + 2 (class-4 sites) over from..to.
-[[nodiscard]] PolyStats ComputePolyStats(const ActiveData& ad, int32_t from, int32_t to);
+[[nodiscard]] PolyStats ComputePolyStats(const Selection& sel, int32_t from, int32_t to);
 
 }  // namespace ovelt

@@ -2,10 +2,10 @@
 
 namespace ovelt {
 
-std::vector<int32_t> PolymorphicSites(const ActiveData& ad, int32_t from, int32_t to) {
+std::vector<int32_t> PolymorphicSites(const Selection& sel, int32_t from, int32_t to) {
   std::vector<int32_t> sites;
   for (int32_t site = from; site <= to; ++site) {
-    const int16_t c = ad.SelSiteClass1[static_cast<size_t>(site)];
+    const int16_t c = sel.SelSiteClass1[static_cast<size_t>(site)];
     if (c != kMonomorphic && c != kGapOrMissing) sites.push_back(site);
   }
   return sites;

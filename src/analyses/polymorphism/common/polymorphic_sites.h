@@ -6,12 +6,11 @@
 #include <cstdint>
 #include <vector>
 
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
 // Site numbers of from..to with class 1 to 4 in `SelSiteClass1`, ascending.
-[[nodiscard]] std::vector<int32_t> PolymorphicSites(const ActiveData& ad, int32_t from,
-                                                    int32_t to);
+[[nodiscard]] std::vector<int32_t> PolymorphicSites(const Selection& sel, int32_t from, int32_t to);
 
 }  // namespace ovelt

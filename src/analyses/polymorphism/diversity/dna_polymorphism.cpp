@@ -1,5 +1,7 @@
 #include "analyses/polymorphism/diversity/dna_polymorphism.h"
 
+#include "command/command_failure.h"
+
 #include <new>
 #include <optional>
 
@@ -21,32 +23,32 @@ auto Guarded(const std::string& message, bool append_fault, Step&& step) {
   try {
     return step();
   } catch (const std::bad_alloc&) {
-    throw PolyFailure(message);
+    Fail(message);
   } catch (const StatsError& e) {
-    throw PolyFailure(append_fault ? message + e.what() : message);
+    Fail(append_fault ? message + e.what() : message);
   }
 }
 
 }  // namespace
 
-DnaPolResult ComputeDnaPolymorphism(const ActiveData& ad, int32_t from, int32_t to,
+DnaPolResult ComputeDnaPolymorphism(const Selection& sel, int32_t from, int32_t to,
                                     const DnaPolOptions& options, const SlidingWindowSpec& window,
                                     const PolyProgress& progress) {
   DnaPolResult r;
   r.RegionFrom = from;
   r.RegionTo = to;
-  r.Sequences = ad.SelOutCount;
+  r.Sequences = sel.SelOutCount;
   r.MissingData = options.MissingData && !options.SlidingOn;
   if (r.MissingData) {
     r.Deletion = Guarded(kPairwiseDeletionFailure, false,
-                         [&] { return ComputePairwiseDeletion(ad, from, to, progress.Gauge); });
+                         [&] { return ComputePairwiseDeletion(sel, from, to, progress.Gauge); });
     return r;
   }
 
   Say(progress, "Computing Haplotype Diversity...");
-  r.Stats = ComputePolyStats(ad, from, to);
+  r.Stats = ComputePolyStats(sel, from, to);
   r.Haplotypes = Guarded(kHaplotypeFailure, false,
-                         [&] { return ComputeHaplotypes(ad, from, to, progress.Gauge); });
+                         [&] { return ComputeHaplotypes(sel, from, to, progress.Gauge); });
   const int32_t l = r.Stats.NetSites;
   if (l != 0) {
     const bool var_pi = options.ComputeVarPi && !options.SlidingOn;
@@ -57,14 +59,14 @@ DnaPolResult ComputeDnaPolymorphism(const ActiveData& ad, int32_t from, int32_t 
       Say(progress, "Computing sampling Variance of Pi...");
       r.SamplingVariance = Guarded(kSamplingVarianceFailure, false, [&] {
         const PolyGauge scaled = [&](int percent) { RaiseTo(progress.Gauge, percent / 3); };
-        d = PairwiseDifferences(ad, from, to, scaled);
+        d = PairwiseDifferences(sel, from, to, scaled);
         return SamplingVarianceOfPi(*d, l, progress.Gauge);
       });
     }
     if (jc) {
       Say(progress, "Computing Pi (Jukes and Cantor)...");
       r.PiJC = Guarded(kJukesCantorFailure, false, [&] {
-        if (!d) d = PairwiseDifferences(ad, from, to);
+        if (!d) d = PairwiseDifferences(sel, from, to);
         return PiJukesCantor(*d, l, progress.Gauge);
       });
     }
@@ -74,9 +76,9 @@ DnaPolResult ComputeDnaPolymorphism(const ActiveData& ad, int32_t from, int32_t 
   if (options.SlidingOn) {
     Say(progress, "Computing Pi (Sliding Window)...");
     try {
-      r.Windows = ComputePiThetaWindows(ad, from, to, window, progress.Gauge);
-    } catch (const std::exception& e) {
-      throw WindowFailure(e.what());
+      r.Windows = ComputePiThetaWindows(sel, from, to, window, progress.Gauge);
+    } catch (const std::exception&) {
+      FailTooBig(WindowLoopFailureMessage(sel.data().FilePath));
     }
   }
   return r;

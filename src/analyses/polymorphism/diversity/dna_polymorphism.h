@@ -11,15 +11,15 @@
 #include <stdexcept>
 #include <string>
 
-#include "analyses/polymorphism/diversity/dna_polymorphism_options.h"
 #include "analyses/polymorphism/common/haplotypes.h"
-#include "analyses/polymorphism/diversity/missing_data_pi.h"
 #include "analyses/polymorphism/common/pi_variance.h"
 #include "analyses/polymorphism/common/poly_gauge.h"
 #include "analyses/polymorphism/common/poly_stats.h"
-#include "analyses/polymorphism/windows/sliding_window_pi.h"
+#include "analyses/polymorphism/diversity/dna_polymorphism_options.h"
+#include "analyses/polymorphism/diversity/missing_data_pi.h"
 #include "analyses/polymorphism/diversity/theta_variances.h"
-#include "core/active_data.h"
+#include "analyses/polymorphism/windows/sliding_window_pi.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
@@ -41,17 +41,6 @@ struct DnaPolResult {
   std::optional<PairwiseDeletion> Deletion;
 };
 
-// A computation that could not finish: `what()` is the message the user is shown.
-class PolyFailure : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-// A fault in the loop over the windows (the output would be too big).
-class WindowFailure : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
 // What the run shows while it computes: the status words of each step and the gauge.
 struct PolyProgress {
   std::function<void(const std::string&)> Status;
@@ -59,8 +48,9 @@ struct PolyProgress {
 };
 
 // The statistics of the options over the first selection (already filled, at least two
-// sequences) and the region from..to. Throws PolyFailure with the step's message.
-[[nodiscard]] DnaPolResult ComputeDnaPolymorphism(const ActiveData& ad, int32_t from, int32_t to,
+// sequences) and the region from..to. Throws CommandFailure: a failed step with
+// its message; a fault in the loop over the windows as a result too big to show.
+[[nodiscard]] DnaPolResult ComputeDnaPolymorphism(const Selection& sel, int32_t from, int32_t to,
                                                   const DnaPolOptions& options,
                                                   const SlidingWindowSpec& window,
                                                   const PolyProgress& progress = {});

@@ -12,8 +12,6 @@
 
 namespace ovelt {
 
-inline constexpr int16_t kDnaPolymorphismCommand = 2;
-
 struct DnaPolOptions {
   int32_t RegionFrom = 1, RegionTo = 0;  // RegionTo 0: the last site
   int16_t SelSet1 = 0;

@@ -3,6 +3,7 @@
 // through a `Format` mask. The report head comes first and is the caller's (ReportHead).
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "analyses/polymorphism/diversity/dna_polymorphism.h"
@@ -10,11 +11,11 @@
 namespace ovelt {
 
 // " Number of polymorphic (segregating) sites, S: " and " Total number of mutations, Eta: ";
-// for `analysis` 2 also the haplotypes and Pi. Other analyses that print this block stop after
-// the Eta line. Hd takes four decimals from 100 haplotypes on, three below.
-[[nodiscard]] std::string PolymorphismFirstBlock(const PolyStats& stats,
-                                                 const HaplotypeStats& haplotypes,
-                                                 int16_t analysis);
+// with the haplotypes (the DNA polymorphism report) also those and Pi; the other reports that
+// print this block stop after the Eta line. Hd takes four decimals from 100 haplotypes on, three
+// below.
+[[nodiscard]] std::string PolymorphismFirstBlock(
+    const PolyStats& stats, const std::optional<HaplotypeStats>& haplotypes = std::nullopt);
 
 [[nodiscard]] std::string SamplingVarianceLines(const PiSamplingVariance& v);
 [[nodiscard]] std::string JukesCantorLine(double pi_jc);

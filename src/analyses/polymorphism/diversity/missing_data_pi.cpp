@@ -10,12 +10,15 @@ namespace ovelt {
 
 namespace {
 
-bool IsMissing(char cell) { return cell == '-' || cell == '?'; }
+bool IsMissing(char cell) {
+  return cell == '-' || cell == '?';
+}
 
 // True when a file sequence that the first selection does not hold has "-" or "?" at `site`.
-bool GapOutsideSelection(const ActiveData& ad, const std::vector<bool>& selected, int32_t site) {
-  for (int32_t seq = 1; seq <= ad.RawMatrix.seqs(); ++seq)
-    if (!selected[static_cast<size_t>(seq)] && IsMissing(ad.RawMatrix.at(site, seq))) return true;
+bool GapOutsideSelection(const Selection& sel, const std::vector<bool>& selected, int32_t site) {
+  for (int32_t seq = 1; seq <= sel.data().RawMatrix.seqs(); ++seq)
+    if (!selected[static_cast<size_t>(seq)] && IsMissing(sel.data().RawMatrix.at(site, seq)))
+      return true;
   return false;
 }
 
@@ -24,17 +27,18 @@ struct UsedColumns {
   int32_t excluded_gap_sites = 0;
 };
 
-UsedColumns FindUsedColumns(const ActiveData& ad, int32_t from, int32_t to) {
+UsedColumns FindUsedColumns(const Selection& sel, int32_t from, int32_t to) {
   UsedColumns used;
-  std::vector<bool> selected(static_cast<size_t>(ad.RawMatrix.seqs()) + 1, false);
-  for (size_t i = 1; i < ad.SelSeqNumbers1.size(); ++i) {
-    const int32_t seq = ad.SelSeqNumbers1[i];
-    if (seq >= 1 && seq <= ad.RawMatrix.seqs()) selected[static_cast<size_t>(seq)] = true;
+  std::vector<bool> selected(static_cast<size_t>(sel.data().RawMatrix.seqs()) + 1, false);
+  for (size_t i = 1; i < sel.SelSeqNumbers1.size(); ++i) {
+    const int32_t seq = sel.SelSeqNumbers1[i];
+    if (seq >= 1 && seq <= sel.data().RawMatrix.seqs()) selected[static_cast<size_t>(seq)] = true;
   }
   for (int32_t site = from; site <= to; ++site) {
-    const int16_t c = ad.SelSiteClass1[static_cast<size_t>(site)];
+    const int16_t c = sel.SelSiteClass1[static_cast<size_t>(site)];
     if (c == kMonomorphic) continue;
-    if (ad.GapsInSets == 2 && c == kGapOrMissing && GapOutsideSelection(ad, selected, site)) {
+    if (sel.data().GapsInSets == 2 && c == kGapOrMissing &&
+        GapOutsideSelection(sel, selected, site)) {
       ++used.excluded_gap_sites;
       continue;
     }
@@ -45,10 +49,10 @@ UsedColumns FindUsedColumns(const ActiveData& ad, int32_t from, int32_t to) {
 
 }  // namespace
 
-PairwiseDeletion ComputePairwiseDeletion(const ActiveData& ad, int32_t from, int32_t to,
+PairwiseDeletion ComputePairwiseDeletion(const Selection& sel, int32_t from, int32_t to,
                                          const PolyGauge& gauge) {
-  const int32_t n = ad.SelOutCount;
-  const UsedColumns used = FindUsedColumns(ad, from, to);
+  const int32_t n = sel.SelOutCount;
+  const UsedColumns used = FindUsedColumns(sel, from, to);
   PairwiseDeletion r;
   r.ExcludedGapSites = used.excluded_gap_sites;
 
@@ -56,8 +60,8 @@ PairwiseDeletion ComputePairwiseDeletion(const ActiveData& ad, int32_t from, int
   // per-site diversity and theta.
   PairCounts dropped(n), differences(n);
   int32_t not_analyzed = 0;
-  ForEachColumn(ad, used.sites, [&](int32_t site, const uint8_t* codes) {
-    if (ad.SelSiteClass1[static_cast<size_t>(site)] == kGapOrMissing)
+  ForEachColumn(sel, used.sites, [&](int32_t site, const uint8_t* codes) {
+    if (sel.SelSiteClass1[static_cast<size_t>(site)] == kGapOrMissing)
       dropped.AddColumn(codes, EitherMissingRule());
     differences.AddColumn(codes, DiffersRule());
     std::array<int32_t, 5> counts{};

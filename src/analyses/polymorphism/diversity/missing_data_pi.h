@@ -10,7 +10,7 @@
 #include <cstdint>
 
 #include "analyses/polymorphism/common/poly_gauge.h"
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
@@ -21,21 +21,21 @@ struct PairwiseDeletion {
   // datum there (only with GapsInSets 2).
   int32_t ExcludedGapSites = 0;
   // In pairwise comparisons.
-  int64_t Comparisons = 0;        // pairs with at least one compared site (C)
+  int64_t Comparisons = 0;  // pairs with at least one compared site (C)
   double AverageSites = 0.0;
   double AverageDifferences = 0.0;
   double PiPairwise = 0.0;
   // At individual sites.
   int32_t SitesAnalyzed = 0;
   int32_t SegSites = 0;
-  double K = 0.0;                 // sum of Pi(site)
+  double K = 0.0;  // sum of Pi(site)
   double Pi = 0.0;
   double ThetaWSequence = 0.0;
   double ThetaWSite = 0.0;
 };
 
 // Over from..to of the first selection. The gauge rises to 80 over the pairs, then to 100.
-[[nodiscard]] PairwiseDeletion ComputePairwiseDeletion(const ActiveData& ad, int32_t from,
+[[nodiscard]] PairwiseDeletion ComputePairwiseDeletion(const Selection& sel, int32_t from,
                                                        int32_t to, const PolyGauge& gauge = {});
 
 }  // namespace ovelt

@@ -21,9 +21,9 @@ double PiJukesCantor(const PairCounts& d, int32_t net_sites, const PolyGauge& ga
   return usable == 0 ? 0.0 : sum / static_cast<double>(usable);
 }
 
-double PiJukesCantor(const ActiveData& ad, int32_t from, int32_t to, int32_t net_sites,
+double PiJukesCantor(const Selection& sel, int32_t from, int32_t to, int32_t net_sites,
                      const PolyGauge& gauge) {
-  return PiJukesCantor(PairwiseDifferences(ad, from, to), net_sites, gauge);
+  return PiJukesCantor(PairwiseDifferences(sel, from, to), net_sites, gauge);
 }
 
 }  // namespace ovelt

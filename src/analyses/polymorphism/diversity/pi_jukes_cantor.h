@@ -18,7 +18,7 @@ inline const char* const kJukesCantorFailure =
 [[nodiscard]] double PiJukesCantor(const PairCounts& d, int32_t net_sites,
                                    const PolyGauge& gauge = {});
 // Over from..to of the first selection, with L = `net_sites` (above 0).
-[[nodiscard]] double PiJukesCantor(const ActiveData& ad, int32_t from, int32_t to,
+[[nodiscard]] double PiJukesCantor(const Selection& sel, int32_t from, int32_t to,
                                    int32_t net_sites, const PolyGauge& gauge = {});
 
 }  // namespace ovelt

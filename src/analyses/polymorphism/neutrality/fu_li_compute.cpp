@@ -7,7 +7,7 @@
 
 namespace ovelt {
 
-FuLiTestResult ComputeFuLiTest(const ActiveData& ad, int32_t from, int32_t to, bool use_mutations,
+FuLiTestResult ComputeFuLiTest(const Selection& sel, int32_t from, int32_t to, bool use_mutations,
                                const std::optional<SlidingWindowSpec>& window,
                                const PolyGauge& gauge) {
   SiteTallies tallies;
@@ -15,10 +15,10 @@ FuLiTestResult ComputeFuLiTest(const ActiveData& ad, int32_t from, int32_t to, b
     FuLiTestResult result;
     result.RegionFrom = from;
     result.RegionTo = to;
-    const int32_t n = ad.SelOutCount;
+    const int32_t n = sel.SelOutCount;
     result.Sequences = n;
     result.UseMutations = use_mutations;
-    tallies = TallySites(ad, from, to);
+    tallies = TallySites(sel, from, to);
     result.Totals = SumTallies(tallies, from, to, use_mutations, n);
     const NeutralityTotals& t = result.Totals;
     if (t.NetSites > 0) result.Pi = t.K / t.NetSites;
@@ -32,7 +32,7 @@ FuLiTestResult ComputeFuLiTest(const ActiveData& ad, int32_t from, int32_t to, b
       result.DStar = FuLiDStarValue(t.Eta, t.EtaS, c.a1, c.uD, c.vD, n);
       result.FStar = FuLiFStarValue(t.K, t.Eta, t.EtaS, c.uF, c.vF, n);
     }
-    if (t.K > 0.0) result.Haplotypes = ComputeHaplotypes(ad, from, to);
+    if (t.K > 0.0) result.Haplotypes = ComputeHaplotypes(sel, from, to);
     return result;
   });
   if (r.Haplotypes) {

@@ -8,11 +8,11 @@
 #include <optional>
 
 #include "analyses/polymorphism/common/haplotypes.h"
+#include "analyses/polymorphism/common/poly_gauge.h"
 #include "analyses/polymorphism/neutrality/neutrality_totals.h"
 #include "analyses/polymorphism/neutrality/neutrality_windows.h"
-#include "analyses/polymorphism/common/poly_gauge.h"
 #include "analyses/polymorphism/windows/sliding_window.h"
-#include "core/active_data.h"
+#include "core/selection.h"
 #include "stats/fs_statistic.h"
 #include "stats/fu_li_statistics.h"
 
@@ -44,7 +44,7 @@ struct FuLiTestResult {
 // Over from..to of the first selection (filled, at least two sequences); along `window` when
 // given. Throws NeutralityFailure with the test's message on a fault; a fault of Fs only leaves
 // `FsFailure` set.
-[[nodiscard]] FuLiTestResult ComputeFuLiTest(const ActiveData& ad, int32_t from, int32_t to,
+[[nodiscard]] FuLiTestResult ComputeFuLiTest(const Selection& sel, int32_t from, int32_t to,
                                              bool use_mutations,
                                              const std::optional<SlidingWindowSpec>& window,
                                              const PolyGauge& gauge = {});

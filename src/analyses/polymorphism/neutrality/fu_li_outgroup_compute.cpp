@@ -5,7 +5,7 @@
 
 namespace ovelt {
 
-FuLiOutgroupResult ComputeFuLiOutgroupTest(const ActiveData& ad, int32_t from, int32_t to,
+FuLiOutgroupResult ComputeFuLiOutgroupTest(const Selection& sel, int32_t from, int32_t to,
                                            bool use_mutations,
                                            const std::optional<SlidingWindowSpec>& window,
                                            const PolyGauge& gauge,
@@ -15,11 +15,11 @@ FuLiOutgroupResult ComputeFuLiOutgroupTest(const ActiveData& ad, int32_t from, i
     FuLiOutgroupResult result;
     result.RegionFrom = from;
     result.RegionTo = to;
-    const int32_t n = ad.SelCount1;
+    const int32_t n = sel.SelCount1;
     result.Sequences = n;
-    result.OutgroupSequences = ad.SelCount2;
+    result.OutgroupSequences = sel.SelCount2;
     result.UseMutations = use_mutations;
-    tallies = TallySitesWithOutgroup(ad, from, to);
+    tallies = TallySitesWithOutgroup(sel, from, to);
     result.AmbiguousSites = tallies.AmbiguousSites;
     result.Totals = SumTallies(tallies, from, to, use_mutations, n);
     const NeutralityTotals& t = result.Totals;

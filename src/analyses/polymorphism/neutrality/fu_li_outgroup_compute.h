@@ -11,11 +11,11 @@
 #include <string>
 #include <vector>
 
+#include "analyses/polymorphism/common/poly_gauge.h"
 #include "analyses/polymorphism/neutrality/neutrality_totals.h"
 #include "analyses/polymorphism/neutrality/neutrality_windows.h"
-#include "analyses/polymorphism/common/poly_gauge.h"
 #include "analyses/polymorphism/windows/sliding_window.h"
-#include "core/active_data.h"
+#include "core/selection.h"
 #include "stats/fay_wu_h.h"
 #include "stats/fu_li_statistics.h"
 
@@ -45,7 +45,7 @@ struct FuLiOutgroupResult {
 // sequences) against the second (one or more). `status` (optional) is told the status words of
 // the steps. Throws NeutralityFailure with the test's message on a fault.
 [[nodiscard]] FuLiOutgroupResult ComputeFuLiOutgroupTest(
-    const ActiveData& ad, int32_t from, int32_t to, bool use_mutations,
+    const Selection& sel, int32_t from, int32_t to, bool use_mutations,
     const std::optional<SlidingWindowSpec>& window, const PolyGauge& gauge = {},
     const std::function<void(const std::string&)>& status = {});
 

@@ -3,21 +3,20 @@
 #include "analyses/polymorphism/neutrality/neutrality_significance.h"
 #include "analyses/polymorphism/neutrality/neutrality_window_report.h"
 #include "analyses/polymorphism/neutrality/tajima_report.h"
+#include "core/line_end.h"
 #include "output/format_mask.h"
 #include "stats/significance_words.h"
 
 namespace ovelt {
 namespace {
 
-constexpr const char* kEnd = "\r\n";
-
 std::string Line(const std::string& label, const std::string& value) {
-  return label + value + kEnd;
+  return label + value + kCrLf;
 }
 
-std::string SetName(const ActiveData& ad, int16_t set) {
-  if (set < 1 || set > ad.SetCount()) return "";
-  return ad.SequenceSets[static_cast<size_t>(set)].nombre();
+std::string SetName(const Selection& sel, int16_t set) {
+  if (set < 1 || set > sel.data().SetCount()) return "";
+  return sel.data().SequenceSets[static_cast<size_t>(set)].nombre();
 }
 
 std::string Words(double value, FuLiTable table, int32_t n) {
@@ -34,23 +33,23 @@ bool AnyNotDetermined(const FuLiOutgroupWindows& windows) {
 
 }  // namespace
 
-std::string FuLiOutgroupHead(const ActiveData& ad, const FuLiOutgroupResult& r) {
-  std::string t = kEnd;
-  t += Line(" Input Data File: ", ad.FilePath);
+std::string FuLiOutgroupHead(const Selection& sel, const FuLiOutgroupResult& r) {
+  std::string t = kCrLf;
+  t += Line(" Input Data File: ", sel.data().FilePath);
   t += Line(" Selected region: " + StrNum(r.RegionFrom) + "-" + StrNum(r.RegionTo),
             "     Number of sites: " + StrNum(r.RegionTo - r.RegionFrom + 1));
   t += Line(" Total sites (excluding alignment gaps): ", StrNum(r.Totals.NetSites));
-  if (ad.GapsInSets == 2)
+  if (sel.data().GapsInSets == 2)
     t += std::string(" Sites with alignment gaps in the complete data file have been excluded") +
-         kEnd;
-  t += Line(" Intraspecific Data: ", SetName(ad, ad.SelSet1));
+         kCrLf;
+  t += Line(" Intraspecific Data: ", SetName(sel, sel.SelSet1));
   t += Line("    Number of sequences: ", StrNum(r.Sequences));
-  t += Line(" Interspecific Data: ", SetName(ad, ad.SelSet2));
+  t += Line(" Interspecific Data: ", SetName(sel, sel.SelSet2));
   for (int32_t seq = 1; seq <= r.OutgroupSequences; ++seq) {
     const auto s = static_cast<size_t>(seq);
-    t += Line("       Sequence used: ", s < ad.SelNames2.size() ? ad.SelNames2[s] : "");
+    t += Line("       Sequence used: ", s < sel.SelNames2.size() ? sel.SelNames2[s] : "");
   }
-  t += std::string(" =====  Intraspecific Data  =====") + kEnd;
+  t += std::string(" =====  Intraspecific Data  =====") + kCrLf;
   return t;
 }
 
@@ -74,25 +73,25 @@ std::string FuLiOutgroupReportBody(const FuLiOutgroupResult& r) {
     t += Line(" Total number of segregating sites in external branches, Eta(e): ", StrNum(c.EtaE));
     t += Line(" Total number of singleton segregating sites, Eta(s): ", StrNum(c.EtaS));
   }
-  t += kEnd;
+  t += kCrLf;
   t += Line(" Average number of pairwise nucleotide differences, k: ", Format(c.K, "0.000"));
   t += Line(" Nucleotide diversity, Pi: ", Format(r.Pi, "0.00000"));
-  t += kEnd;
+  t += kCrLf;
   t += Line(" Theta estimated from k: ", Format(r.ThetaK, "0.000"));
   t += Line(" Theta estimated from Eta(e): ", Format(r.ThetaEtaE, "0.000"));
   t += Line(r.UseMutations ? " Theta estimated from Eta: " : " Theta estimated from S: ",
             Format(r.ThetaEta, "0.000"));
-  t += kEnd;
+  t += kCrLf;
   t += Line(" Fu and Li's D test statistic, FL-D: ", Format(r.D, "0.00000"));
   t += Line("     Statistical significance: ", Words(r.D, FuLiTable::kD, n));
   t += Line(" Fu and Li's F test statistic, FL-F: ", Format(r.F, "0.00000"));
   t += Line("     Statistical significance: ", Words(r.F, FuLiTable::kF, n));
   t += Line(" Fay and Wu's H test statistic, FW-H: ", Format(r.FayWu.H, "0.00000"));
-  t += kEnd;
-  t += CalculationLine(r.UseMutations) + kEnd;
+  t += kCrLf;
+  t += CalculationLine(r.UseMutations) + kCrLf;
   if (r.Windows) {
     t += SlidingBlock(r.Windows->Geometry);
-    t += FuLiWindowLegend(AnyNotDetermined(*r.Windows)) + kEnd;
+    t += FuLiWindowLegend(AnyNotDetermined(*r.Windows)) + kCrLf;
   }
   return t;
 }

@@ -8,12 +8,12 @@
 #include <string>
 
 #include "analyses/polymorphism/neutrality/fu_li_outgroup_compute.h"
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
-// The head, from the selections of `ad` (set names, outgroup sequence names) and the result.
-[[nodiscard]] std::string FuLiOutgroupHead(const ActiveData& ad, const FuLiOutgroupResult& result);
+// The head, from the selections of `sel` (set names, outgroup sequence names) and the result.
+[[nodiscard]] std::string FuLiOutgroupHead(const Selection& sel, const FuLiOutgroupResult& result);
 
 [[nodiscard]] std::string FuLiOutgroupReportBody(const FuLiOutgroupResult& result);
 

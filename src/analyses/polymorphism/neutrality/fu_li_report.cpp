@@ -4,16 +4,15 @@
 #include "analyses/polymorphism/neutrality/neutrality_significance.h"
 #include "analyses/polymorphism/neutrality/neutrality_window_report.h"
 #include "analyses/polymorphism/neutrality/tajima_report.h"
+#include "core/line_end.h"
 #include "output/format_mask.h"
 #include "stats/significance_words.h"
 
 namespace ovelt {
 namespace {
 
-constexpr const char* kEnd = "\r\n";
-
 std::string Line(const std::string& label, const std::string& value) {
-  return label + value + kEnd;
+  return label + value + kCrLf;
 }
 
 std::string Words(double value, FuLiTable table, int32_t n) {
@@ -42,7 +41,7 @@ std::string FsLines(const FsResult& fs, int32_t haplotypes) {
 
 std::string FuLiReportBody(const FuLiTestResult& r) {
   const NeutralityTotals& c = r.Totals;
-  if (c.SegSites == 0) return std::string(kNoPolymorphismsLine) + kEnd;
+  if (c.SegSites == 0) return std::string(kNoPolymorphismsLine) + kCrLf;
   const int32_t n = r.Sequences;
   std::string t;
   t += Line(" Number of polymorphic (segregating) sites, S: ", StrNum(c.SegSites));
@@ -50,31 +49,31 @@ std::string FuLiReportBody(const FuLiTestResult& r) {
   t += Line(r.UseMutations ? " Total number of singleton mutations, Eta(s): "
                            : " Total number of singleton segregating sites, Eta(s): ",
             StrNum(c.EtaS));
-  t += kEnd;
+  t += kCrLf;
   t += Line(" Average number of pairwise nucleotide differences, k: ", Format(c.K, "0.000"));
   t += Line(" Nucleotide diversity, Pi: ", Format(r.Pi, "0.00000"));
-  t += kEnd;
+  t += kCrLf;
   t += Line(" Theta estimated from k: ", Format(r.ThetaK, "0.000"));
   t += Line(" Theta estimated from Eta(s): ", Format(r.ThetaEtaS, "0.000"));
   t += Line(r.UseMutations ? " Theta estimated from Eta: " : " Theta estimated from S: ",
             Format(r.ThetaEta, "0.000"));
-  t += kEnd;
+  t += kCrLf;
   t += Line(" Fu and Li's D* test statistic: ", Format(r.DStar, "0.00000"));
   t += Line("     Statistical significance: ", Words(r.DStar, FuLiTable::kDStar, n));
   t += Line(" Fu and Li's F* test statistic: ", Format(r.FStar, "0.00000"));
   t += Line("     Statistical significance: ", Words(r.FStar, FuLiTable::kFStar, n));
-  t += kEnd;
-  t += CalculationLine(r.UseMutations) + kEnd;
+  t += kCrLf;
+  t += CalculationLine(r.UseMutations) + kCrLf;
   if (r.Haplotypes) {
     t += Line(" Number of Haplotypes, h: ", StrNum(r.Haplotypes->Haplotypes));
     t += Line(" Haplotype (gene) diversity, Hd: ", Format(r.Haplotypes->Hd, "0.000"));
     t += Line("    Variance of Haplotype diversity: ", Format(r.Haplotypes->VarHd, "0.00000"));
-    t += kEnd;
+    t += kCrLf;
     if (r.Fs) t += FsLines(*r.Fs, r.Haplotypes->Haplotypes);
   }
   if (r.Windows) {
     t += SlidingBlock(r.Windows->Geometry);
-    t += FuLiWindowLegend(AnyNotDetermined(*r.Windows)) + kEnd;
+    t += FuLiWindowLegend(AnyNotDetermined(*r.Windows)) + kCrLf;
   }
   return t;
 }

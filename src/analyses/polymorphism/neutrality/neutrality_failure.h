@@ -7,6 +7,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "command/command_failure.h"
+
 namespace ovelt {
 
 inline const std::string kTajimaFault = "Error computing Tajima's Test : ";
@@ -32,21 +34,23 @@ inline const std::string kFsOutOfMemory =
     "number of programs running, or try to increase the RAM or virtual memory.";
 inline const std::string kFsFault = "Error computing the Fs (Fu 1997) statistic.";
 
-class NeutralityFailure : public std::runtime_error {
+// A failed computation of a neutrality test: the run ends and nothing stands.
+class NeutralityFailure : public CommandFailure {
  public:
-  using std::runtime_error::runtime_error;
+  explicit NeutralityFailure(const std::string& message)
+      : CommandFailure(FailureKind::kFailed, message) {}
 };
 
 // The description of a fault as the messages end in it ("Out of memory" for an allocation).
 [[nodiscard]] std::string FaultDescription(const std::exception& fault);
 
-// Runs `compute`; a fault other than a NeutralityFailure becomes one with the message `words`,
+// Runs `compute`; a fault other than a CommandFailure becomes one with the message `words`,
 // followed by the fault's description when `describe` (the messages that end in ": ").
 template <class Compute>
 auto GuardFault(const std::string& words, bool describe, Compute compute) -> decltype(compute()) {
   try {
     return compute();
-  } catch (const NeutralityFailure&) {
+  } catch (const CommandFailure&) {
     throw;
   } catch (const std::exception& fault) {
     throw NeutralityFailure(describe ? words + FaultDescription(fault) : words);

@@ -14,10 +14,6 @@
 
 namespace ovelt {
 
-inline constexpr int16_t kTajimaCommand = 5;
-inline constexpr int16_t kFuLiCommand = 11;
-inline constexpr int16_t kFuLiOutgroupCommand = 1012;  // two sets: 12 + 1000
-
 namespace neutrality_detail {
 template <class V>
 void VisitWindow(V& v, bool& sliding_on, int32_t& window_length, int32_t& step_size,
@@ -36,7 +32,7 @@ void VisitWindow(V& v, bool& sliding_on, int32_t& window_length, int32_t& step_s
 }
 }  // namespace neutrality_detail
 
-// Tajima's test (command 5) and Fu and Li's tests (command 11).
+// Tajima's test and Fu and Li's tests.
 struct NeutralityOptions {
   int32_t RegionFrom = 1, RegionTo = 0;  // RegionTo 0: the last site
   int16_t SelSet1 = 0;
@@ -52,7 +48,7 @@ struct NeutralityOptions {
   }
 };
 
-// Fu and Li's tests with an outgroup, and Fay and Wu's H (command 1012).
+// Fu and Li's tests with an outgroup, and Fay and Wu's H.
 struct FuLiOutgroupOptions {
   int32_t RegionFrom = 1, RegionTo = 0;
   int16_t SelSet1 = 1;  // the intraspecific data

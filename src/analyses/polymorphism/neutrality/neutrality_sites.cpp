@@ -77,12 +77,12 @@ OutgroupColumn ReadOutgroup(const SeqMatrix& outgroup, int32_t site, int32_t seq
 
 // Nucleotide counts of the polymorphic sites of from..to, walking each sequence along its
 // contiguous cells rather than each site down the columns.
-std::vector<BaseCounts> CountPolymorphicSites(const ActiveData& ad,
+std::vector<BaseCounts> CountPolymorphicSites(const Selection& sel,
                                               const std::vector<int32_t>& sites) {
   std::vector<BaseCounts> counts(sites.size(), BaseCounts{});
-  const int32_t seqs = std::min(ad.SelOutCount, ad.SelMatrix1.seqs());
+  const int32_t seqs = std::min(sel.SelOutCount, sel.SelMatrix1.seqs());
   for (int32_t seq = 1; seq <= seqs; ++seq) {
-    const char* row = ad.SelMatrix1.sequence(seq);
+    const char* row = sel.SelMatrix1.sequence(seq);
     for (size_t i = 0; i < sites.size(); ++i) {
       const int index = NucleotideIndex(row[sites[i] - 1]);
       if (index >= 0) ++counts[i][static_cast<size_t>(index)];
@@ -98,13 +98,13 @@ bool IsPolymorphicClass(int16_t site_class) {
 // The common walk: classes, diversities and ingroup counts; `outgroup_step` (when given) then
 // settles each site against the outgroup.
 SiteTallies Tally(
-    const ActiveData& ad, int32_t from, int32_t to,
+    const Selection& sel, int32_t from, int32_t to,
     const std::function<void(SiteTallies&, int32_t site, const BaseCounts*)>& outgroup_step) {
   SiteTallies tallies;
   tallies.From = from;
   tallies.To = to;
   tallies.Sites.assign(static_cast<size_t>(to) + 1, SiteTally{});
-  tallies.Classes = ad.SelSiteClass1;
+  tallies.Classes = sel.SelSiteClass1;
   if (tallies.Classes.size() < static_cast<size_t>(to) + 1)
     tallies.Classes.resize(static_cast<size_t>(to) + 1, kGapOrMissing);
 
@@ -112,7 +112,7 @@ SiteTallies Tally(
   for (int32_t site = from; site <= to; ++site) {
     if (IsPolymorphicClass(tallies.Classes[static_cast<size_t>(site)])) polymorphic.push_back(site);
   }
-  const std::vector<BaseCounts> counts = CountPolymorphicSites(ad, polymorphic);
+  const std::vector<BaseCounts> counts = CountPolymorphicSites(sel, polymorphic);
 
   size_t next_polymorphic = 0;
   for (int32_t site = from; site <= to; ++site) {
@@ -124,7 +124,7 @@ SiteTallies Tally(
     if (site_class == kGapOrMissing) continue;
     SiteTally& t = tallies.Sites[s];
     t.Used = true;
-    t.Diversity = ad.SelSiteDiversity1[s];
+    t.Diversity = sel.SelSiteDiversity1[s];
     if (site_counts != nullptr) {
       t.Variants = static_cast<int16_t>(Present(*site_counts));
       t.Singletons = static_cast<int16_t>(Once(*site_counts));
@@ -159,16 +159,16 @@ bool OutgroupUsable(const SeqMatrix& ingroup, int32_t seqs, const SeqMatrix& out
   return Present(counts) < 2 || counts[static_cast<size_t>(column.state)] > 0;
 }
 
-SiteTallies TallySites(const ActiveData& ad, int32_t from, int32_t to) {
-  return Tally(ad, from, to, nullptr);
+SiteTallies TallySites(const Selection& sel, int32_t from, int32_t to) {
+  return Tally(sel, from, to, nullptr);
 }
 
-SiteTallies TallySitesWithOutgroup(const ActiveData& ad, int32_t from, int32_t to) {
-  const int32_t outgroup_seqs = std::min(ad.SelCount2, ad.SelMatrix2.seqs());
-  return Tally(ad, from, to, [&](SiteTallies& tallies, int32_t site, const BaseCounts* counts) {
+SiteTallies TallySitesWithOutgroup(const Selection& sel, int32_t from, int32_t to) {
+  const int32_t outgroup_seqs = std::min(sel.SelCount2, sel.SelMatrix2.seqs());
+  return Tally(sel, from, to, [&](SiteTallies& tallies, int32_t site, const BaseCounts* counts) {
     const auto s = static_cast<size_t>(site);
     SiteTally& t = tallies.Sites[s];
-    const OutgroupColumn column = ReadOutgroup(ad.SelMatrix2, site, outgroup_seqs);
+    const OutgroupColumn column = ReadOutgroup(sel.SelMatrix2, site, outgroup_seqs);
     if (column.gap || outgroup_seqs < 1) {
       // Not a net site of this analysis: the windows skip it like any gap.
       tallies.Classes[s] = kGapOrMissing;

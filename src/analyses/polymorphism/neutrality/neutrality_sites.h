@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "analyses/polymorphism/windows/sliding_window.h"
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
@@ -58,10 +58,10 @@ struct SiteTallies {
                                   int32_t outgroup_seqs, int32_t site);
 
 // Over from..to of the first selection (classes and diversities filled).
-[[nodiscard]] SiteTallies TallySites(const ActiveData& ad, int32_t from, int32_t to);
+[[nodiscard]] SiteTallies TallySites(const Selection& sel, int32_t from, int32_t to);
 
 // Over from..to of the first selection (classes and diversities filled) against the second
 // selection as the outgroup.
-[[nodiscard]] SiteTallies TallySitesWithOutgroup(const ActiveData& ad, int32_t from, int32_t to);
+[[nodiscard]] SiteTallies TallySitesWithOutgroup(const Selection& sel, int32_t from, int32_t to);
 
 }  // namespace ovelt

@@ -64,19 +64,19 @@ std::vector<std::string> TajimaGridTitles() {
   return {"Window", "Midpoint", "D", "Sign"};
 }
 
-std::vector<std::string> TajimaGridRow(const TajimaWindow& row, int32_t n) {
+std::vector<std::string> TajimaGridRow(const TajimaWindow& row) {
   std::vector<std::string> cells = Leading(row.Window);
-  if (!row.Determined) {
+  if (!row.D) {
     cells.insert(cells.end(), {kNotDetermined, kNotDetermined});
     return cells;
   }
-  cells.insert(cells.end(), {SignedCell(row.D), SignificanceTajima(row.D, n)});
+  cells.insert(cells.end(), {SignedCell(*row.D), row.Mark});
   return cells;
 }
 
 GraphData TajimaGraph(const TajimaWindows& windows) {
   GraphData graph = Graph(windows, kGraphTajima, [](const TajimaWindow& w) {
-    return std::vector<double>{w.Determined ? w.D : 0.0};
+    return std::vector<double>{w.D.value_or(0.0)};
   });
   AddTajimaBound(graph, 2, windows.Sequences);
   return graph;

@@ -16,7 +16,7 @@ namespace ovelt {
 [[nodiscard]] std::string SignedCell(double value);
 
 [[nodiscard]] std::vector<std::string> TajimaGridTitles();
-[[nodiscard]] std::vector<std::string> TajimaGridRow(const TajimaWindow& row, int32_t n);
+[[nodiscard]] std::vector<std::string> TajimaGridRow(const TajimaWindow& row);
 [[nodiscard]] GraphData TajimaGraph(const TajimaWindows& windows);
 // " n.d., not determined;  # P<0.10;  * P<0.05;  ** P<0.01;  *** P<0.001"
 [[nodiscard]] std::string TajimaWindowLegend();

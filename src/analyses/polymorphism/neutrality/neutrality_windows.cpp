@@ -1,5 +1,7 @@
 #include "analyses/polymorphism/neutrality/neutrality_windows.h"
 
+#include "analyses/polymorphism/neutrality/neutrality_significance.h"
+
 #include "analyses/polymorphism/neutrality/neutrality_totals.h"
 #include "stats/fu_li_statistics.h"
 #include "stats/tajima_d.h"
@@ -38,13 +40,14 @@ TajimaWindows ComputeTajimaWindows(const SiteTallies& tallies, const SlidingWind
                              [&](TajimaWindow& row, const NeutralityTotals& t) {
                                row.SegSites = t.Eta;
                                row.K = t.K;
-                               row.Determined = t.Eta > 0;
-                               if (row.Determined) row.D = TajimaD(t.K, t.Eta, c.a1, c.e1, c.e2);
+                               if (t.Eta <= 0) return;
+                               row.D = TajimaD(t.K, t.Eta, c.a1, c.e1, c.e2);
+                               row.Mark = SignificanceTajima(*row.D, n);
                              });
 }
 
-FuLiWindows ComputeFuLiWindows(const SiteTallies& tallies, const SlidingWindowSpec& geometry, int32_t n,
-                               bool use_mutations, const PolyGauge& gauge) {
+FuLiWindows ComputeFuLiWindows(const SiteTallies& tallies, const SlidingWindowSpec& geometry,
+                               int32_t n, bool use_mutations, const PolyGauge& gauge) {
   const FuLiCoefficients c = FuLiStarCoefficients(n);
   return Slide<FuLiWindow>(tallies, geometry, n, use_mutations, gauge,
                            [&](FuLiWindow& row, const NeutralityTotals& t) {

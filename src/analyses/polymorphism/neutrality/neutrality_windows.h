@@ -5,10 +5,12 @@
 // test statistic (`Determined` false); its H is 0.
 
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
-#include "analyses/polymorphism/neutrality/neutrality_sites.h"
 #include "analyses/polymorphism/common/poly_gauge.h"
+#include "analyses/polymorphism/neutrality/neutrality_sites.h"
 #include "analyses/polymorphism/windows/sliding_window.h"
 #include "stats/fay_wu_h.h"
 
@@ -18,8 +20,17 @@ struct TajimaWindow {
   WindowBounds Window;
   int32_t SegSites = 0;  // S, or Eta when counting mutations
   double K = 0.0;
-  bool Determined = false;
-  double D = 0.0;
+  std::optional<double> D;    // none without segregating sites
+  std::string Mark = "n.d.";  // the significance mark of D for the run's sample size
+
+  template <class V>
+  void Visit(V& v) const {
+    Window.Visit(v);
+    v.Integer("segregating_sites", SegSites);
+    v.Number("k", K);
+    v.Optional("tajima_d", D);
+    v.Text("significance", Mark);
+  }
 };
 
 struct FuLiWindow {
@@ -49,6 +60,12 @@ struct WindowRows {
   int32_t Capacity = 0;   // R, the most windows the region could hold
   int32_t Sequences = 0;  // n of the significance marks
   std::vector<Row> Rows;
+
+  template <class V>
+  void Visit(V& v) const {
+    Geometry.Visit(v);
+    v.Array("windows", Rows);
+  }
 };
 
 using TajimaWindows = WindowRows<TajimaWindow>;

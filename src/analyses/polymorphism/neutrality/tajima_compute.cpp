@@ -3,11 +3,12 @@
 #include <cmath>
 
 #include "analyses/polymorphism/neutrality/neutrality_failure.h"
+#include "analyses/polymorphism/neutrality/neutrality_significance.h"
 #include "analyses/polymorphism/neutrality/neutrality_sites.h"
 
 namespace ovelt {
 
-TajimaTestResult ComputeTajimaTest(const ActiveData& ad, int32_t from, int32_t to,
+TajimaTestResult ComputeTajimaTest(const Selection& sel, int32_t from, int32_t to,
                                    bool use_mutations,
                                    const std::optional<SlidingWindowSpec>& window,
                                    const PolyGauge& gauge) {
@@ -15,23 +16,24 @@ TajimaTestResult ComputeTajimaTest(const ActiveData& ad, int32_t from, int32_t t
     TajimaTestResult result;
     result.RegionFrom = from;
     result.RegionTo = to;
-    result.Sequences = ad.SelOutCount;
+    result.Sequences = sel.SelOutCount;
     result.UseMutations = use_mutations;
-    result.Stats = ComputePolyStats(ad, from, to);
+    result.Stats = ComputePolyStats(sel, from, to);
     result.Segregating = use_mutations ? static_cast<int32_t>(std::floor(result.Stats.Mutations))
                                        : result.Stats.SegSites;
     result.Coefficients = TajimaCoefficientsFor(result.Sequences);
     const TajimaCoefficients& c = result.Coefficients;
     result.ThetaSequence = result.Segregating / c.a1;
     if (result.Stats.NetSites > 0) result.ThetaSite = result.ThetaSequence / result.Stats.NetSites;
-    result.Determined = result.Segregating > 0;
-    if (result.Determined)
+    if (result.Segregating > 0) {
       result.D = TajimaD(result.Stats.AvgDiffs, result.Segregating, c.a1, c.e1, c.e2);
+      result.Mark = SignificanceTajima(*result.D, result.Sequences);
+    }
     return result;
   });
-  if (window && r.Determined) {
+  if (window && r.D) {
     r.Windows = GuardFault(kTajimaWindowFault, true, [&] {
-      return ComputeTajimaWindows(TallySites(ad, from, to), *window, r.Sequences, use_mutations,
+      return ComputeTajimaWindows(TallySites(sel, from, to), *window, r.Sequences, use_mutations,
                                   gauge);
     });
   }

@@ -6,12 +6,13 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
-#include "analyses/polymorphism/neutrality/neutrality_windows.h"
 #include "analyses/polymorphism/common/poly_gauge.h"
 #include "analyses/polymorphism/common/poly_stats.h"
+#include "analyses/polymorphism/neutrality/neutrality_windows.h"
 #include "analyses/polymorphism/windows/sliding_window.h"
-#include "core/active_data.h"
+#include "core/selection.h"
 #include "stats/tajima_d.h"
 
 namespace ovelt {
@@ -26,14 +27,28 @@ struct TajimaTestResult {
   double ThetaSequence = 0.0;  // S / a1
   double ThetaSite = 0.0;      // S / a1 / L (0 with no net site)
   TajimaCoefficients Coefficients;
-  bool Determined = false;  // S above 0
-  double D = 0.0;
+  std::optional<double> D;    // none when S is 0
+  std::string Mark = "n.d.";  // the significance mark of D
   std::optional<TajimaWindows> Windows;
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Integer("region_from", RegionFrom);
+    v.Integer("region_to", RegionTo);
+    v.Integer("sequences", Sequences);
+    v.Bool("use_mutations", UseMutations);
+    Stats.Visit(v);
+    v.Number("theta_sequence", ThetaSequence);
+    v.Number("theta_site", ThetaSite);
+    v.Optional("tajima_d", D);
+    v.Text("significance", Mark);
+    v.Object("sliding_window", Windows);
+  }
 };
 
-// Over from..to of the first selection (filled, at least two sequences); along `window` when
-// given. Throws NeutralityFailure with the test's message on a fault.
-[[nodiscard]] TajimaTestResult ComputeTajimaTest(const ActiveData& ad, int32_t from, int32_t to,
+// Over from..to of the first selection (at least two sequences); along `window` when given.
+// Throws CommandFailure with the test's message on a fault.
+[[nodiscard]] TajimaTestResult ComputeTajimaTest(const Selection& sel, int32_t from, int32_t to,
                                                  bool use_mutations,
                                                  const std::optional<SlidingWindowSpec>& window,
                                                  const PolyGauge& gauge = {});

@@ -53,8 +53,8 @@ template <class T>
 std::vector<T> Pick(const std::vector<T>& per_site, const std::vector<int32_t>& sites, T fill) {
   std::vector<T> picked{per_site.empty() ? fill : per_site[0]};
   for (const int32_t site : sites)
-    picked.push_back(static_cast<size_t>(site) < per_site.size() ? per_site[static_cast<size_t>(site)]
-                                                                 : fill);
+    picked.push_back(
+        static_cast<size_t>(site) < per_site.size() ? per_site[static_cast<size_t>(site)] : fill);
   return picked;
 }
 
@@ -73,8 +73,7 @@ std::optional<std::vector<DomainSet>> ParseDomains(const std::string& text, int3
       const size_t dash = range.find('-');
       const auto first = Number(range.substr(0, dash));
       const auto last = dash == std::string::npos ? first : Number(range.substr(dash + 1));
-      if (!first || !last || *first < 1 || *last < *first || *last > num_sites)
-        return std::nullopt;
+      if (!first || !last || *first < 1 || *last < *first || *last > num_sites) return std::nullopt;
       for (int32_t site = *first; site <= *last; ++site) domain.Sites.push_back(site);
     }
     std::sort(domain.Sites.begin(), domain.Sites.end());
@@ -94,9 +93,7 @@ ActiveData DomainData(const ActiveData& ad, const std::vector<int32_t>& sites) {
   d.SiteDiversity = Pick<double>(ad.SiteDiversity, sites, 0.0);
   d.CodonPosition = Pick<int16_t>(ad.CodonPosition, sites, 0);
   d.CodingFlag = Pick<std::string>(ad.CodingFlag, sites, "");
-  d.SelMatrix1 = d.SelMatrix2 = d.SelMatrix3 = SeqMatrix{};
   d.Region = {1, d.NumSites};
-  d.SelSites = d.NumSites;
   d.Domains.clear();
   return d;
 }

@@ -9,7 +9,7 @@
 
 #include <cstdint>
 
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
@@ -19,6 +19,6 @@ struct CodonChanges {
   int32_t Nonsynonymous = 0;
 };
 
-[[nodiscard]] CodonChanges CountCodonChanges(const ActiveData& ad, int32_t from, int32_t to);
+[[nodiscard]] CodonChanges CountCodonChanges(const Selection& sel, int32_t from, int32_t to);
 
 }  // namespace ovelt

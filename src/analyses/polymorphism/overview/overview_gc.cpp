@@ -21,17 +21,17 @@ GcShare Share(const Tally& t) {
 
 }  // namespace
 
-GcContent ComputeGcContent(const ActiveData& ad, int32_t from, int32_t to) {
+GcContent ComputeGcContent(const Selection& sel, int32_t from, int32_t to) {
   Tally noncoding, coding;
-  const int32_t n = ad.SelOutCount;
+  const int32_t n = sel.SelOutCount;
   for (int32_t site = from; site <= to; ++site) {
-    if (ad.SelSiteClass1[static_cast<size_t>(site)] == kGapOrMissing) continue;
-    const bool codes = static_cast<size_t>(site) < ad.CodonPosition.size() &&
-                       ad.CodonPosition[static_cast<size_t>(site)] > 0;
+    if (sel.SelSiteClass1[static_cast<size_t>(site)] == kGapOrMissing) continue;
+    const bool codes = static_cast<size_t>(site) < sel.data().CodonPosition.size() &&
+                       sel.data().CodonPosition[static_cast<size_t>(site)] > 0;
     Tally& t = codes ? coding : noncoding;
     ++t.sites;
     for (int32_t seq = 1; seq <= n; ++seq) {
-      const char cell = ad.SelMatrix1.at(site, seq);
+      const char cell = sel.SelMatrix1.at(site, seq);
       ++t.nucleotides;
       if (cell == 'G' || cell == 'C') ++t.gc;
     }

@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
@@ -22,6 +22,6 @@ struct GcContent {
   GcShare Total;
 };
 
-[[nodiscard]] GcContent ComputeGcContent(const ActiveData& ad, int32_t from, int32_t to);
+[[nodiscard]] GcContent ComputeGcContent(const Selection& sel, int32_t from, int32_t to);
 
 }  // namespace ovelt

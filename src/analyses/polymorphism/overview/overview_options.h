@@ -10,9 +10,6 @@
 
 namespace ovelt {
 
-inline constexpr int16_t kOverviewCode = 24;
-inline constexpr int16_t kMultiDomainCode = 33;
-
 struct OverviewOptions {
   int32_t RegionFrom = 1, RegionTo = 0;
   int16_t SelSet1 = 0;
@@ -42,8 +39,8 @@ struct MultiDomainOptions {
     v.Integer(NumberOfDomains,
               {"domains", "Number of Domains", "Analyze the first this many domains (0: all)"}, 0,
               32767);
-    v.Flag(IncludeGapSites, {"with-gaps", "Including sites with gaps",
-                             "Keep the sites with gaps in the domains"});
+    v.Flag(IncludeGapSites,
+           {"with-gaps", "Including sites with gaps", "Keep the sites with gaps in the domains"});
     v.Text(Domains, {"domain", "Domains",
                      "Domains as NAME=1-300,450-600, several separated by ';' (default: the "
                      "file's domains)"});

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/line_end.h"
 #include "output/format_mask.h"
 #include "stats/significance_words.h"
 
@@ -9,10 +10,11 @@ namespace ovelt {
 
 namespace {
 
-constexpr const char* kEol = "\r\n";
 constexpr int32_t kManyHaplotypes = 100;
 
-std::string Line(const std::string& text) { return text + kEol; }
+std::string Line(const std::string& text) {
+  return text + kCrLf;
+}
 
 std::string GcLine(const std::string& label, const GcShare& share) {
   if (!share.Applicable) return Line(label + "n.a.");
@@ -21,8 +23,9 @@ std::string GcLine(const std::string& label, const GcShare& share) {
 }
 
 std::string TestLines(const std::string& label, const NeutralityValue& v, MarkFamily family) {
-  if (!v.Determined) return Line(label + "n.d.") + Line("     Statistical significance: " +
-                                                         SignificanceWords("n.d.", family));
+  if (!v.Determined)
+    return Line(label + "n.d.") +
+           Line("     Statistical significance: " + SignificanceWords("n.d.", family));
   return Line(label + Format(v.Value, "0.00000")) +
          Line("     Statistical significance: " + SignificanceWords(v.Mark, family));
 }
@@ -65,8 +68,7 @@ std::string OverviewReportText(const OverviewStats& o) {
     text += Line(" Theta (per sequence) from Eta: " + Format(o.ThetaPerSequence, "0.00000"));
   } else {
     text += Line(" Theta (per site) from S, Theta-W: " + Format(o.ThetaPerSite, "0.00000"));
-    text += Line(" Theta (per sequence) from S, Theta-W: " +
-                 Format(o.ThetaPerSequence, "0.00000"));
+    text += Line(" Theta (per sequence) from S, Theta-W: " + Format(o.ThetaPerSequence, "0.00000"));
   }
 
   text += Line(" ================== Neutrality Tests ================== ");
@@ -82,8 +84,8 @@ std::string OverviewReportText(const OverviewStats& o) {
     text += Line(" Fu's Fs statistic: " + Format(o.Fs, "0.000"));
     text += Line(" Strobeck's S statistic: " + Format(o.StrobeckS, "0.000"));
     text += Line("    (Probability that NHap <= " + StrNum(o.Haplotypes) + ")");
-    text += Line(" Probability that [NHap = " + StrNum(o.Haplotypes) + "]: " +
-                 Format(o.PEqual, "0.000"));
+    text += Line(" Probability that [NHap = " + StrNum(o.Haplotypes) +
+                 "]: " + Format(o.PEqual, "0.000"));
   }
   if (!polymorphic) text += Line(" No polymorphisms in the selected region !!!");
   text += Line(o.UseMutations ? " Calculation using the total number of mutations"

@@ -3,11 +3,11 @@
 #include <cmath>
 
 #include "analyses/polymorphism/common/haplotypes.h"
-#include "analyses/polymorphism/neutrality/neutrality_significance.h"
-#include "analyses/polymorphism/neutrality/neutrality_totals.h"
 #include "analyses/polymorphism/common/pairwise_counts.h"
 #include "analyses/polymorphism/common/pi_variance.h"
 #include "analyses/polymorphism/common/poly_stats.h"
+#include "analyses/polymorphism/neutrality/neutrality_significance.h"
+#include "analyses/polymorphism/neutrality/neutrality_totals.h"
 #include "stats/fs_statistic.h"
 #include "stats/fu_li_statistics.h"
 #include "stats/harmonic.h"
@@ -27,10 +27,10 @@ NeutralityValue Tested(double value, std::string mark) {
   return v;
 }
 
-void ComputeTests(OverviewStats& o, const ActiveData& ad, int32_t from, int32_t to) {
+void ComputeTests(OverviewStats& o, const Selection& sel, int32_t from, int32_t to) {
   const int32_t n = o.SampleSize;
   const NeutralityTotals totals =
-      SumTallies(TallySites(ad, from, to), from, to, o.UseMutations, n);
+      SumTallies(TallySites(sel, from, to), from, to, o.UseMutations, n);
   const TajimaCoefficients t = TajimaCoefficientsFor(n);
   // The test takes Eta in place of S when mutations are counted.
   const double d = TajimaD(totals.K, totals.Eta, t.a1, t.e1, t.e2);
@@ -44,30 +44,29 @@ void ComputeTests(OverviewStats& o, const ActiveData& ad, int32_t from, int32_t 
 
 }  // namespace
 
-OverviewStats ComputeOverview(const ActiveData& ad, int32_t from, int32_t to, bool use_mutations,
+OverviewStats ComputeOverview(const Selection& sel, int32_t from, int32_t to, bool use_mutations,
                               const PolyGauge& gauge) {
   OverviewStats o;
   o.UseMutations = use_mutations;
-  const int32_t n = ad.SelOutCount;
+  const int32_t n = sel.SelOutCount;
   o.SampleSize = n;
   o.Sites = to - from + 1;
-  const PolyStats stats = ComputePolyStats(ad, from, to);
+  const PolyStats stats = ComputePolyStats(sel, from, to);
   o.NetSites = stats.NetSites;
   o.SegSites = stats.SegSites;
   o.Mutations = static_cast<int32_t>(stats.Mutations);
   o.Pi = stats.PiValue;
   o.K = stats.AvgDiffs;
-  o.Gc = ComputeGcContent(ad, from, to);
-  o.Changes = CountCodonChanges(ad, from, to);
+  o.Gc = ComputeGcContent(sel, from, to);
+  o.Changes = CountCodonChanges(sel, from, to);
 
   if (n >= 2 && o.Sites <= 0) {
     // No site: every sequence is the same haplotype.
     o.HaplotypesDetermined = true;
     o.Haplotypes = 1;
   } else if (n >= 2) {
-    const HaplotypeStats h = ComputeHaplotypes(ad, from, to, [&gauge](int percent) {
-      RaiseTo(gauge, percent / 4);
-    });
+    const HaplotypeStats h =
+        ComputeHaplotypes(sel, from, to, [&gauge](int percent) { RaiseTo(gauge, percent / 4); });
     o.HaplotypesDetermined = true;
     o.Haplotypes = h.Haplotypes;
     o.Hd = h.Hd;
@@ -76,9 +75,8 @@ OverviewStats ComputeOverview(const ActiveData& ad, int32_t from, int32_t to, bo
     o.Haplotypes = 1;
   }
   if (n >= 2 && o.NetSites > 0) {
-    const PairCounts d = PairwiseDifferences(ad, from, to, [&gauge](int percent) {
-      RaiseTo(gauge, 25 + percent / 4);
-    });
+    const PairCounts d = PairwiseDifferences(
+        sel, from, to, [&gauge](int percent) { RaiseTo(gauge, 25 + percent / 4); });
     const PiSamplingVariance v = SamplingVarianceOfPi(d, o.NetSites);
     o.VarPiDetermined = true;
     o.VarPi = v.Variance;
@@ -94,7 +92,7 @@ OverviewStats ComputeOverview(const ActiveData& ad, int32_t from, int32_t to, bo
 
   o.TestsComputed = n >= kTestMinimum;
   // Without a segregating site the tests have no variance: they stay not determined.
-  if (o.TestsComputed && o.SegSites > 0) ComputeTests(o, ad, from, to);
+  if (o.TestsComputed && o.SegSites > 0) ComputeTests(o, sel, from, to);
   RaiseTo(gauge, 80);
 
   if (o.K > 0.0 && o.HaplotypesDetermined) {

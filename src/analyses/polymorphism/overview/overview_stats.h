@@ -11,10 +11,10 @@
 #include <cstdint>
 #include <string>
 
+#include "analyses/polymorphism/common/poly_gauge.h"
 #include "analyses/polymorphism/overview/overview_codon_changes.h"
 #include "analyses/polymorphism/overview/overview_gc.h"
-#include "analyses/polymorphism/common/poly_gauge.h"
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
@@ -60,7 +60,7 @@ struct OverviewStats {
 };
 
 // Over from..to of the first selection (classes and diversities filled).
-[[nodiscard]] OverviewStats ComputeOverview(const ActiveData& ad, int32_t from, int32_t to,
+[[nodiscard]] OverviewStats ComputeOverview(const Selection& sel, int32_t from, int32_t to,
                                             bool use_mutations, const PolyGauge& gauge = {});
 
 }  // namespace ovelt

@@ -4,15 +4,15 @@
 
 namespace ovelt {
 
-MismatchDistribution ComputeMismatch(const ActiveData& ad, int32_t from, int32_t to,
+MismatchDistribution ComputeMismatch(const Selection& sel, int32_t from, int32_t to,
                                      const PolyGauge& gauge) {
   MismatchDistribution m;
-  const int32_t n = ad.SelOutCount;
+  const int32_t n = sel.SelOutCount;
   m.Mismatch.assign(1, 0);
   if (n < 2) return m;
   // Monomorphic sites add no difference and gap sites are skipped, so the pairwise counts over
   // the sites of class 1 to 4 are the differences over the whole region.
-  const PairCounts d = PairwiseDifferences(ad, from, to, gauge);
+  const PairCounts d = PairwiseDifferences(sel, from, to, gauge);
   for (int32_t i = 1; i < n; ++i) {
     for (int32_t j = i + 1; j <= n; ++j) {
       const auto diffs = static_cast<size_t>(d.at(i, j));

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "analyses/polymorphism/common/poly_gauge.h"
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
@@ -19,8 +19,8 @@ struct MismatchDistribution {
 };
 
 // Over from..to of the first selection (`SelOutCount` sequences). The gauge rises to 100.
-[[nodiscard]] MismatchDistribution ComputeMismatch(const ActiveData& ad, int32_t from,
-                                                   int32_t to, const PolyGauge& gauge = {});
+[[nodiscard]] MismatchDistribution ComputeMismatch(const Selection& sel, int32_t from, int32_t to,
+                                                   const PolyGauge& gauge = {});
 
 // Sum over the pairs of (d - k)^2 / (C - 1); 0 when there is one pair or none.
 [[nodiscard]] double MismatchVariance(const MismatchDistribution& m, double k);

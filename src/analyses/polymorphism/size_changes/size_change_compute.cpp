@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "analyses/polymorphism/common/poly_stats.h"
 #include "analyses/polymorphism/size_changes/mismatch_expected.h"
 #include "analyses/polymorphism/size_changes/mismatch_mae.h"
-#include "analyses/polymorphism/common/poly_stats.h"
 #include "analyses/polymorphism/size_changes/raggedness_statistic.h"
+#include "analyses/polymorphism/size_changes/size_change_frequencies.h"
 #include "analyses/polymorphism/size_changes/size_change_r2.h"
 #include "analyses/polymorphism/size_changes/size_change_segregating.h"
-#include "analyses/polymorphism/size_changes/size_change_frequencies.h"
 #include "output/too_big_prompt.h"
 #include "stats/harmonic.h"
 
@@ -17,12 +17,18 @@ namespace ovelt {
 
 namespace {
 
-bool IsMismatch(int32_t kind) { return kind == kMismatchKind || kind == kMismatchKindToo; }
+bool IsMismatch(int32_t kind) {
+  return kind == kMismatchKind || kind == kMismatchKindToo;
+}
 
-double Given(double value, double from_data) { return value == kFromData ? from_data : value; }
+double Given(double value, double from_data) {
+  return value == kFromData ? from_data : value;
+}
 
 // Logarithms are taken of theta initial and tau: a 0 becomes the smallest rate.
-double NotZero(double value) { return value == 0.0 ? kSmallestRate : value; }
+double NotZero(double value) {
+  return value == 0.0 ? kSmallestRate : value;
+}
 
 void FillMismatchTable(SizeChangeResult& r, const SizeChangeParameters& values) {
   const MismatchDistribution& m = r.Mismatch;
@@ -61,8 +67,7 @@ void FillSegregatingTable(SizeChangeResult& r, const SizeChangeParameters& value
   for (int64_t row = 0; row < r.Table.Rows; ++row) {
     const double t = static_cast<double>(row) * kTimeStep;
     r.Table.X.push_back(t);
-    r.Table.First.push_back(
-        ExpectedSegregatingSites(2, values.ThetaInitial, values.ThetaFinal, t));
+    r.Table.First.push_back(ExpectedSegregatingSites(2, values.ThetaInitial, values.ThetaFinal, t));
     r.Table.Second.push_back(
         ExpectedSegregatingSites(n, values.ThetaInitial, values.ThetaFinal, t) / a1);
   }
@@ -70,27 +75,25 @@ void FillSegregatingTable(SizeChangeResult& r, const SizeChangeParameters& value
 
 }  // namespace
 
-SizeChangeResult ObserveSizeChange(const ActiveData& ad, int32_t from, int32_t to,
+SizeChangeResult ObserveSizeChange(const Selection& sel, int32_t from, int32_t to,
                                    const PolyGauge& gauge) {
   SizeChangeResult r;
-  const PolyStats stats = ComputePolyStats(ad, from, to);
-  const int32_t n = ad.SelOutCount;
+  const PolyStats stats = ComputePolyStats(sel, from, to);
+  const int32_t n = sel.SelOutCount;
   r.SampleSize = n;
   r.NetSites = stats.NetSites;
   r.SegSites = stats.SegSites;
   r.K = stats.AvgDiffs;
   r.Pi = stats.PiValue;
-  r.Mismatch = ComputeMismatch(ad, from, to, [&gauge](int percent) {
-    RaiseTo(gauge, percent * 8 / 10);
-  });
+  r.Mismatch =
+      ComputeMismatch(sel, from, to, [&gauge](int percent) { RaiseTo(gauge, percent * 8 / 10); });
   r.VarK = MismatchVariance(r.Mismatch, r.K);
-  if (r.K > 0.0 && n > 0)
-    r.ObservedCV = (1.0 + 1.0 / (4.0 * n)) * std::sqrt(r.VarK) / r.K;
+  if (r.K > 0.0 && n > 0) r.ObservedCV = (1.0 + 1.0 / (4.0 * n)) * std::sqrt(r.VarK) / r.K;
   r.Raggedness = Raggedness(r.Mismatch);
   r.MAE = MeanAbsoluteError(r.Mismatch, r.K);
-  r.R2 = R2Statistic(SingletonsPerSequence(ad, from, to), r.K, r.SegSites);
+  r.R2 = R2Statistic(SingletonsPerSequence(sel, from, to), r.K, r.SegSites);
   RaiseTo(gauge, 90);
-  r.ObservedSpectrum = ObservedFoldedSpectrum(ad, from, to);
+  r.ObservedSpectrum = ObservedFoldedSpectrum(sel, from, to);
   r.Expected = ExpectedVariancesOfK(n, r.K);
   r.Moments = EstimateByMoments(r.K, r.VarK);
   RaiseTo(gauge, 100);

@@ -12,7 +12,7 @@
 
 #include "analyses/polymorphism/common/poly_gauge.h"
 #include "analyses/polymorphism/size_changes/size_change_result.h"
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
@@ -22,7 +22,7 @@ inline constexpr double kTimeStep = 0.1;
 inline constexpr double kShortestTimeSpan = 5.0;
 
 // Over from..to of the first selection. The gauge rises to 100.
-[[nodiscard]] SizeChangeResult ObserveSizeChange(const ActiveData& ad, int32_t from, int32_t to,
+[[nodiscard]] SizeChangeResult ObserveSizeChange(const Selection& sel, int32_t from, int32_t to,
                                                  const PolyGauge& gauge = {});
 
 [[nodiscard]] SizeChangeParameters ResolveSizeChangeParameters(const SizeChangeOptions& options,

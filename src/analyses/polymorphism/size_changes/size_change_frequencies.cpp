@@ -8,11 +8,11 @@
 
 namespace ovelt {
 
-std::vector<double> ObservedFoldedSpectrum(const ActiveData& ad, int32_t from, int32_t to) {
-  const int32_t n = ad.SelOutCount;
+std::vector<double> ObservedFoldedSpectrum(const Selection& sel, int32_t from, int32_t to) {
+  const int32_t n = sel.SelOutCount;
   std::vector<double> folded(static_cast<size_t>(n > 1 ? n / 2 : 0) + 1, 0.0);
   if (n < 2) return folded;
-  ForEachColumn(ad, PolymorphicSites(ad, from, to), [&](int32_t, const uint8_t* codes) {
+  ForEachColumn(sel, PolymorphicSites(sel, from, to), [&](int32_t, const uint8_t* codes) {
     std::array<int32_t, 5> count{};
     for (int32_t s = 0; s < n; ++s) ++count[codes[s]];
     size_t common = 0;
@@ -39,11 +39,12 @@ std::vector<double> ExpectedSpectrum(int32_t n, double theta0, double theta1, do
   const std::vector<double> lineages = LineageDistribution(n, t);
   std::vector<double> at_least(static_cast<size_t>(n) + 2, 0.0);
   for (int32_t m = n; m >= 1; --m)
-    at_least[static_cast<size_t>(m)] = at_least[static_cast<size_t>(m) + 1] +
-                                       lineages[static_cast<size_t>(m)];
+    at_least[static_cast<size_t>(m)] =
+        at_least[static_cast<size_t>(m) + 1] + lineages[static_cast<size_t>(m)];
   std::vector<double> mutations(static_cast<size_t>(n) + 1, 0.0);  // k W(k)
   for (int32_t k = 2; k <= n; ++k) {
-    const double g = at_least[static_cast<size_t>(k)] > 1.0 ? 1.0 : at_least[static_cast<size_t>(k)];
+    const double g =
+        at_least[static_cast<size_t>(k)] > 1.0 ? 1.0 : at_least[static_cast<size_t>(k)];
     mutations[static_cast<size_t>(k)] = (theta1 + (theta0 - theta1) * g) / (k - 1.0);
   }
   for (int32_t i = 1; i < n; ++i) {

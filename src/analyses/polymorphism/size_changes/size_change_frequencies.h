@@ -15,14 +15,14 @@
 #include <cstdint>
 #include <vector>
 
-#include "core/active_data.h"
+#include "core/selection.h"
 
 namespace ovelt {
 
 // Folded counts, index 1..n / 2 (index 0 unused), over the sites of class 1 to 4 of from..to in
 // the first selection: each nucleotide of a site other than its most common one counts once at
 // min(i, n - i), i its number of copies (the first of equally common ones is the common one).
-[[nodiscard]] std::vector<double> ObservedFoldedSpectrum(const ActiveData& ad, int32_t from,
+[[nodiscard]] std::vector<double> ObservedFoldedSpectrum(const Selection& sel, int32_t from,
                                                          int32_t to);
 
 // Expected counts, index 1..n - 1.

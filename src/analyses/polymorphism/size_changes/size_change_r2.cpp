@@ -34,10 +34,10 @@ void AddColumn(const uint8_t* codes, int32_t n, std::vector<double>& u) {
 
 }  // namespace
 
-std::vector<double> SingletonsPerSequence(const ActiveData& ad, int32_t from, int32_t to) {
-  const int32_t n = ad.SelOutCount;
+std::vector<double> SingletonsPerSequence(const Selection& sel, int32_t from, int32_t to) {
+  const int32_t n = sel.SelOutCount;
   std::vector<double> u(static_cast<size_t>(n > 0 ? n : 0) + 1, 0.0);
-  ForEachColumn(ad, PolymorphicSites(ad, from, to),
+  ForEachColumn(sel, PolymorphicSites(sel, from, to),
                 [&](int32_t, const uint8_t* codes) { AddColumn(codes, n, u); });
   return u;
 }

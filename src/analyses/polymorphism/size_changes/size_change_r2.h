@@ -9,14 +9,14 @@
 #include <cstdint>
 #include <vector>
 
-#include "core/active_data.h"
+#include "core/selection.h"
 #include "stats/r2_statistic.h"
 
 namespace ovelt {
 
 // U(i) over from..to of the first selection, index 1..n (index 0 unused); sites with a gap or
 // missing data are skipped.
-[[nodiscard]] std::vector<double> SingletonsPerSequence(const ActiveData& ad, int32_t from,
+[[nodiscard]] std::vector<double> SingletonsPerSequence(const Selection& sel, int32_t from,
                                                         int32_t to);
 
 }  // namespace ovelt

@@ -1,25 +1,28 @@
 #include "analyses/polymorphism/size_changes/size_change_report.h"
 
+#include "core/line_end.h"
 #include "output/format_mask.h"
 
 namespace ovelt {
 
 namespace {
 
-constexpr const char* kEol = "\r\n";
+bool IsMismatch(int32_t kind) {
+  return kind == kMismatchKind || kind == kMismatchKindToo;
+}
 
-bool IsMismatch(int32_t kind) { return kind == kMismatchKind || kind == kMismatchKindToo; }
-
-std::string Line(const std::string& text) { return text + kEol; }
+std::string Line(const std::string& text) {
+  return text + kCrLf;
+}
 
 std::string VarianceLines(const KVariance& v, const std::string& model) {
-  return Line("    Expected Total variance of k (" + model + "), V(k): " +
-              Format(v.Total, "0.0000")) +
+  return Line("    Expected Total variance of k (" + model +
+              "), V(k): " + Format(v.Total, "0.0000")) +
          Line("       Expected C.V. of k (" + model + "): " + Format(v.TotalCV, "0.0000")) +
-         Line("    Expected Stochastic variance of k (" + model + "), Vst(k): " +
-              Format(v.Stochastic, "0.0000")) +
-         Line("    Expected Sampling variance of k (" + model + "), Vs(k): " +
-              Format(v.Sampling, "0.0000"));
+         Line("    Expected Stochastic variance of k (" + model +
+              "), Vst(k): " + Format(v.Stochastic, "0.0000")) +
+         Line("    Expected Sampling variance of k (" + model +
+              "), Vs(k): " + Format(v.Sampling, "0.0000"));
 }
 
 std::string MismatchText(const SizeChangeResult& r) {
@@ -75,8 +78,7 @@ std::string SpectrumText(const SizeChangeResult& r) {
 }  // namespace
 
 std::string SizeChangeReportText(const SizeChangeResult& r) {
-  std::string text =
-      Line(" Number of polymorphic (segregating) sites, S: " + StrNum(r.SegSites));
+  std::string text = Line(" Number of polymorphic (segregating) sites, S: " + StrNum(r.SegSites));
   return text + (IsMismatch(r.AnalysisKind) ? MismatchText(r) : SpectrumText(r));
 }
 
@@ -96,9 +98,9 @@ std::vector<std::vector<std::string>> SizeChangeGridRows(const SizeChangeResult&
   std::vector<std::vector<std::string>> rows;
   const bool timed = r.AnalysisKind == kSegregatingKind;
   for (size_t i = 0; i < r.Table.X.size(); ++i) {
-    rows.push_back({timed ? Format(r.Table.X[i], "0.0")
-                          : Format(static_cast<int64_t>(r.Table.X[i]), "@@@@@"),
-                    Format(r.Table.First[i], "0.00000"), Format(r.Table.Second[i], "0.00000")});
+    rows.push_back(
+        {timed ? Format(r.Table.X[i], "0.0") : Format(static_cast<int64_t>(r.Table.X[i]), "@@@@@"),
+         Format(r.Table.First[i], "0.00000"), Format(r.Table.Second[i], "0.00000")});
   }
   return rows;
 }

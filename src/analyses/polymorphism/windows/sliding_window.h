@@ -17,6 +17,13 @@ struct SlidingWindowSpec {
   int32_t WindowLength = 100;
   int32_t StepSize = 25;
   bool GapsInWindow = false;
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Integer("window_length", WindowLength);
+    v.Integer("step_size", StepSize);
+    v.Bool("gaps_in_window", GapsInWindow);
+  }
 };
 
 // The dialog's defaults: 100 and 25, or Int(sites / 2) + 1 and Int(sites / 8) + 1 for a file
@@ -50,8 +57,8 @@ using SiteClasses = std::vector<int16_t>;
 
 // Start of the window after the one that started at `previous`: `step` sites further on, or
 // `step` net sites further when gaps do not count; never beyond `to`.
-[[nodiscard]] int32_t NextWindowStart(const SiteClasses& classes, int32_t previous,
-                                      int32_t step, int32_t to, bool gaps_in_window);
+[[nodiscard]] int32_t NextWindowStart(const SiteClasses& classes, int32_t previous, int32_t step,
+                                      int32_t to, bool gaps_in_window);
 
 // End of the window that starts at `start`: `length` sites on, or as far as it takes to hold
 // `length` net sites when gaps do not count; never beyond `to`. `net_sites` gets the net sites
@@ -69,6 +76,14 @@ struct WindowBounds {
   int32_t End = 0;
   int32_t NetSites = 0;
   int32_t Midpoint = 0;
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Integer("start", Start);
+    v.Integer("end", End);
+    v.Integer("net_sites", NetSites);
+    v.Integer("midpoint", Midpoint);
+  }
 };
 
 // Every window of from..to in order: the first starts at `from`, each next one where

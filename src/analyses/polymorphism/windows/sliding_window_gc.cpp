@@ -5,25 +5,34 @@
 
 namespace ovelt {
 
-GcWindows ComputeGcWindows(const ActiveData& ad, int32_t from, int32_t to,
+GcWindows ComputeGcWindows(const Selection& sel, int32_t from, int32_t to,
                            const SlidingWindowSpec& geometry, const PolyGauge& gauge) {
   GcWindows result;
   result.Geometry = geometry;
   result.Capacity = WindowCapacity(from, to, geometry.StepSize);
   int32_t row = 0;
-  for (const WindowBounds& w : SlideWindows(ad.SelSiteClass1, from, to, geometry)) {
+  for (const WindowBounds& w : SlideWindows(sel.SelSiteClass1, from, to, geometry)) {
     GcWindow out;
     out.Window = w;
     int64_t a = 0, t = 0;
-    for (int32_t seq = 1; seq <= ad.SelCount1; ++seq) {
-      const char* cells = ad.SelMatrix1.sequence(seq);
+    for (int32_t seq = 1; seq <= sel.SelCount1; ++seq) {
+      const char* cells = sel.SelMatrix1.sequence(seq);
       for (int32_t site = w.Start; site <= w.End; ++site) {
         switch (cells[site - 1]) {
-          case 'A': ++a; break;
-          case 'T': ++t; break;
-          case 'G': ++out.G; break;
-          case 'C': ++out.C; break;
-          default: break;  // gaps and missing data are not bases
+          case 'A':
+            ++a;
+            break;
+          case 'T':
+            ++t;
+            break;
+          case 'G':
+            ++out.G;
+            break;
+          case 'C':
+            ++out.C;
+            break;
+          default:
+            break;  // gaps and missing data are not bases
         }
       }
     }
@@ -39,10 +48,12 @@ GcWindows ComputeGcWindows(const ActiveData& ad, int32_t from, int32_t to,
   return result;
 }
 
-std::vector<std::string> GcGridTitles() { return {"Window", "Midpoint", "G+C", "A+T", "G", "C"}; }
+std::vector<std::string> GcGridTitles() {
+  return {"Window", "Midpoint", "G+C", "A+T", "G", "C"};
+}
 
 std::vector<std::string> GcGridRow(const GcWindow& row) {
-  return {WindowCell(row.Window),   Format(row.Window.Midpoint, "@@@@@"),
+  return {WindowCell(row.Window),    Format(row.Window.Midpoint, "@@@@@"),
           Format(row.GC, "0.00000"), Format(row.AT, "0.00000"),
           Format(row.G, "@@@@"),     Format(row.C, "@@@@")};
 }

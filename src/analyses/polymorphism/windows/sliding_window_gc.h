@@ -10,8 +10,8 @@
 
 #include "analyses/polymorphism/common/poly_gauge.h"
 #include "analyses/polymorphism/windows/sliding_window.h"
+#include "core/selection.h"
 #include "output/graph_data.h"
-#include "core/active_data.h"
 
 namespace ovelt {
 
@@ -30,7 +30,7 @@ struct GcWindows {
 };
 
 // Over from..to of the first selection, with the geometry of the other window drivers.
-[[nodiscard]] GcWindows ComputeGcWindows(const ActiveData& ad, int32_t from, int32_t to,
+[[nodiscard]] GcWindows ComputeGcWindows(const Selection& sel, int32_t from, int32_t to,
                                          const SlidingWindowSpec& geometry,
                                          const PolyGauge& gauge = {});
 

@@ -5,13 +5,13 @@
 
 namespace ovelt {
 
-PiThetaWindows ComputePiThetaWindows(const ActiveData& ad, int32_t from, int32_t to,
+PiThetaWindows ComputePiThetaWindows(const Selection& sel, int32_t from, int32_t to,
                                      const SlidingWindowSpec& geometry, const PolyGauge& gauge) {
   PiThetaWindows result;
   result.Geometry = geometry;
   result.Capacity = WindowCapacity(from, to, geometry.StepSize);
-  const double a1 = HarmonicA1Double(ad.SelOutCount);
-  const std::vector<WindowBounds> windows = SlideWindows(ad.SelSiteClass1, from, to, geometry);
+  const double a1 = HarmonicA1Double(sel.SelOutCount);
+  const std::vector<WindowBounds> windows = SlideWindows(sel.SelSiteClass1, from, to, geometry);
   result.Rows.reserve(windows.size());
   int32_t row = 0;
   for (const WindowBounds& w : windows) {
@@ -20,9 +20,9 @@ PiThetaWindows ComputePiThetaWindows(const ActiveData& ad, int32_t from, int32_t
     double k = 0.0;
     for (int32_t site = w.Start; site <= w.End; ++site) {
       const auto s = static_cast<size_t>(site);
-      if (ad.SelSiteClass1[s] == kGapOrMissing) continue;
-      k += ad.SelSiteDiversity1[s];
-      if (ad.SelSiteDiversity1[s] > 0.0) ++out.SegSites;
+      if (sel.SelSiteClass1[s] == kGapOrMissing) continue;
+      k += sel.SelSiteDiversity1[s];
+      if (sel.SelSiteDiversity1[s] > 0.0) ++out.SegSites;
     }
     if (w.NetSites != 0) {
       out.Pi = k / w.NetSites;
@@ -35,7 +35,9 @@ PiThetaWindows ComputePiThetaWindows(const ActiveData& ad, int32_t from, int32_t
   return result;
 }
 
-std::vector<std::string> PiThetaGridTitles() { return {"Window", "Midpoint", "Pi", "Theta", "S"}; }
+std::vector<std::string> PiThetaGridTitles() {
+  return {"Window", "Midpoint", "Pi", "Theta", "S"};
+}
 
 std::string WindowCell(const WindowBounds& window) {
   return Format(std::to_string(window.Start) + "-" + std::to_string(window.End), "@@@@@@@@@@@");

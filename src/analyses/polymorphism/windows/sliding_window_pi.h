@@ -11,8 +11,8 @@
 
 #include "analyses/polymorphism/common/poly_gauge.h"
 #include "analyses/polymorphism/windows/sliding_window.h"
+#include "core/selection.h"
 #include "output/graph_data.h"
-#include "core/active_data.h"
 
 namespace ovelt {
 
@@ -30,8 +30,8 @@ struct PiThetaWindows {
 };
 
 // Over from..to of the first selection. The gauge rises with row / R.
-[[nodiscard]] PiThetaWindows ComputePiThetaWindows(const ActiveData& ad, int32_t from,
-                                                   int32_t to, const SlidingWindowSpec& geometry,
+[[nodiscard]] PiThetaWindows ComputePiThetaWindows(const Selection& sel, int32_t from, int32_t to,
+                                                   const SlidingWindowSpec& geometry,
                                                    const PolyGauge& gauge = {});
 
 // The grid: column titles, and one row of cell texts per window.

@@ -1,0 +1,28 @@
+#include "analyses/polymorphism/neutrality/neutrality_command_steps.h"
+
+#include <exception>
+
+#include "command/command_failure.h"
+#include "output/output_channel.h"
+
+namespace ovelt {
+
+RegionSelection RunRegion(int32_t from, int32_t to, int32_t num_sites) {
+  return {from, to == 0 ? num_sites : to};
+}
+
+void AddWindowTable(CommandReport& report, const std::string& file_name,
+                    const std::vector<std::string>& titles,
+                    const std::function<std::vector<std::vector<std::string>>()>& rows,
+                    const std::function<GraphData()>& make_graph) {
+  try {
+    report.Grid1.ColumnTitles = titles;
+    report.Grid1.Rows = rows();
+    report.Graph = make_graph();
+  } catch (const std::exception&) {
+    FailTooBig("Input data file: " + file_name + "\n" + kOutputTooBig + "\n" + kIncreaseStep);
+  }
+  report.ShowKinds = {kResultAddGraph, kResultTextAndGrid};
+}
+
+}  // namespace ovelt

@@ -1,0 +1,35 @@
+#pragma once
+// What a command leaves for the output channel once it has computed: the report text, the grids,
+// the chart, and in which windows the result stands. Plain data; the runner hands it over.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "output/graph_data.h"
+#include "output/output_channel.h"
+#include "output/output_grid.h"
+#include "platform/platform.h"
+
+namespace ovelt {
+
+struct CommandReport {
+  // The report head (kept apart for the printer and the saved file) and the text after it.
+  std::string Head;
+  std::string Body;
+  OutputGrid Grid1;
+  OutputGrid Grid2;
+  // The head of the grid in saved output when the result words it its own way.
+  std::optional<std::string> GridTextHead;
+  std::optional<GraphData> Graph;
+  // The `ShowResult` kinds, in their order: text, text and grid, graph added, ...
+  std::vector<int> ShowKinds{kResultTextOnly};
+  // Boxes shown once the result stands (a test that could not be computed).
+  struct Notice {
+    std::string Text;
+    MsgIcon Icon = MsgIcon::kInformation;
+  };
+  std::vector<Notice> Notices;
+};
+
+}  // namespace ovelt

@@ -1,0 +1,99 @@
+#include "shell/command_runner.h"
+
+#include <new>
+
+#include "command/command_failure.h"
+#include "shell/workbench.h"
+
+namespace ovelt {
+
+namespace {
+
+constexpr const char* kOutOfMemory =
+    "        Out of memory !!!\nTry to reduce the number of programs running, or try to increase "
+    "the RAM or virtual memory.";
+
+// The end of a run that cannot stand. A refusal keeps the dialog open; a failed computation
+// leaves nothing standing; a result too big to hold or show also closes the result windows.
+void Stop(OutputChannel& channel, Platform& ui, const CommandFailure& failure) {
+  switch (failure.Kind()) {
+    case FailureKind::kRefused:
+      channel.SetBusy(false);
+      ui.MessageBox(failure.what(), MsgIcon::kWarning);
+      channel.ReopenDialog = 1;
+      break;
+    case FailureKind::kFailed:
+      ui.MessageBox(failure.what(), MsgIcon::kWarning);
+      channel.RunFailed = 1;
+      channel.SetBusy(false);
+      break;
+    case FailureKind::kTooBig:
+      channel.TooBigCancel = 1;
+      ui.MessageBox(failure.what(), MsgIcon::kWarning);
+      channel.EndFailedRun();
+      break;
+  }
+}
+
+void Show(OutputChannel& channel, Platform& ui, const CommandFacts& facts, CommandReport report) {
+  channel.ResultCode = TitleCode(facts.Id);
+  channel.Labels = facts.Labels;
+  channel.HeaderBlock = report.Head;
+  channel.AppendText(report.Head + report.Body);
+  channel.Grid1 = std::move(report.Grid1);
+  channel.Grid2 = std::move(report.Grid2);
+  if (report.GridTextHead) channel.SetGridTextHead(*report.GridTextHead);
+  for (const CommandReport::Notice& notice : report.Notices)
+    ui.MessageBox(notice.Text, notice.Icon);
+  if (report.Graph) channel.SetGraph(std::move(*report.Graph));
+  for (const int kind : report.ShowKinds) channel.ShowResult(kind);
+  channel.SetBusy(false);
+}
+
+}  // namespace
+
+RunOutcome RunCommand(Workbench& wb, const CommandEntry& entry, CommandOptions& options,
+                      bool want_json) {
+  return RunCommand(wb.FileOpen() ? &wb.Data() : nullptr, wb.Output(), wb.Ui(), entry, options,
+                    want_json);
+}
+
+RunOutcome RunCommand(ActiveData* data, OutputChannel& channel, Platform& ui,
+                      const CommandEntry& entry, CommandOptions& options, bool want_json) {
+  channel.ReopenDialog = 0;
+  RunOutcome outcome;
+  if (!entry.Built()) return outcome;
+
+  RunContext context;
+  context.Data = data;
+  context.MinimumSequences = entry.Facts.MinimumSequences;
+  context.Begin = [&channel](const std::string& words) {
+    channel.ResetOutputs();
+    channel.SetBusy(true, words);
+  };
+  context.Progress.Status = [&channel](const std::string& words) { channel.SetStatus(words); };
+  context.Progress.Gauge = [&channel](int percent) { channel.RaiseGauge(percent); };
+  context.WantJson = want_json;
+
+  CommandProduct product;
+  try {
+    product = entry.Binding->Run(context, options);
+  } catch (const CommandFailure& failure) {
+    Stop(channel, ui, failure);
+    return outcome;
+  } catch (const std::bad_alloc&) {
+    Stop(channel, ui, CommandFailure(FailureKind::kFailed, kOutOfMemory));
+    return outcome;
+  }
+  Show(channel, ui, entry.Facts, std::move(product.Report));
+  channel.Used = product.Used;
+  if (data != nullptr) {
+    data->ResultCode = channel.ResultCode;
+    data->Region = product.Region;
+  }
+  outcome.Stands = true;
+  outcome.Json = std::move(product.Json);
+  return outcome;
+}
+
+}  // namespace ovelt
