@@ -2,6 +2,8 @@
 
 #include <ostream>
 
+#include "files/whole_file.h"
+
 namespace ovelt {
 
 bool WriteJsonFile(const std::string& path, const JsonText& json, Platform& platform,
@@ -10,10 +12,7 @@ bool WriteJsonFile(const std::string& path, const JsonText& json, Platform& plat
     out << json.Text() << "\n";
     return true;
   }
-  std::ofstream file(path, std::ios::binary);
-  file << json.Text() << "\n";
-  file.flush();
-  if (!file) {
+  if (!WriteWholeFile(path, json.Text() + "\n")) {
     platform.MessageBox("Can't save the output on the file: " + path, MsgIcon::kWarning);
     return false;
   }
