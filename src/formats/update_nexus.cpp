@@ -1,7 +1,6 @@
 #include "formats/update_nexus.h"
 
-#include <fstream>
-
+#include "files/whole_file.h"
 #include "formats/data_file_writer.h"
 #include "formats/nexus_writer.h"
 #include "formats/nexus_writer_blocks.h"
@@ -170,27 +169,28 @@ void WriteNexusUpdate(const ActiveData& ad, const NexusDocument& document, const
 bool UpdateNexusDataFile(const ActiveData& ad, const NexusDocument& document,
                          const std::string& path, Platform& platform, const std::string& version) {
   if (ad.FileKind != kNexus) return false;
-  if (platform.MessageBox(path + " ?", MsgIcon::kQuestion, MsgButtons::kOkCancel,
-                          kUpdateQuestionTitle) != MsgAnswer::kOk)
+  // Both questions change the user's own file: the first rewrites it, the second drops the
+  // excluded sequences from it.
+  if (platform.AskBeforeChange(path + " ?", MsgIcon::kQuestion, kUpdateQuestionTitle) !=
+      MsgAnswer::kOk)
     return false;
   if (ad.NumSeqs != ad.TotalSeqs &&
-      platform.MessageBox(UpdateFewerSequencesText(ad.NumSeqs, ad.FileName), MsgIcon::kInformation,
-                          MsgButtons::kOkCancel) != MsgAnswer::kOk)
+      platform.AskBeforeChange(UpdateFewerSequencesText(ad.NumSeqs, ad.FileName),
+                               MsgIcon::kInformation) != MsgAnswer::kOk)
     return false;
   platform.SetStatusText(kSavingStatus);
   platform.SetProgress(0);
   const std::vector<std::string> codon_usage = CodonUsageForNexus(ad, platform);
   const WriterStamp stamp = MakeWriterStamp(version, ad.FileName, platform);
+  // The new file is made beside the old one and takes its place only when it is whole: a
+  // failure, a full disk or a killed program leaves the user's file as it was.
   bool written = false;
-  {
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    if (file) {
-      WriterLines out(file, LineDelimiterText(ad.Format.LineDelimiter),
-                      [&platform](int percent) { platform.SetProgress(percent); });
-      WriteNexusUpdate(ad, document, stamp, codon_usage, out);
-      file.flush();
-      written = out.Good();
-    }
+  WholeFileWriter file(path);
+  if (file.Open()) {
+    WriterLines out(file.Stream(), LineDelimiterText(ad.Format.LineDelimiter),
+                    [&platform](int percent) { platform.SetProgress(percent); });
+    WriteNexusUpdate(ad, document, stamp, codon_usage, out);
+    written = out.Good() && file.Commit();
   }
   platform.SetProgress(-1);
   if (!written) platform.MessageBox(kErrorInSaving, MsgIcon::kCritical);

@@ -1,5 +1,5 @@
 #pragma once
-// "Update NEXUS Data File": the open NEXUS file rewritten in place with everything defined
+// "Update NEXUS Data File": the open NEXUS file rewritten with everything defined
 // since it was read. The blocks of the file keep their order: the matrix, SETS and CODONS
 // blocks, the program's own block and CODONUSAGE are written anew from the open data where
 // the file had them; blocks the reader did not take in, and the comments between blocks, are
@@ -28,8 +28,9 @@ inline constexpr const char* kUpdateQuestionTitle = "Careful!";
 void WriteNexusUpdate(const ActiveData& ad, const NexusDocument& document, const WriterStamp& stamp,
                       const std::vector<std::string>& codon_usage, WriterLines& out);
 
-// MenuUpdateNEXUS_Click, with `path` the first recent entry (the open file). Only for a NEXUS
-// file. True when the file was written; the caller restores the idle status line.
+// MenuUpdateNEXUS_Click, with `path` the path the open file was read from. Only for a NEXUS
+// file. The file is replaced whole or not at all. True when the file was written; the caller
+// restores the idle status line.
 bool UpdateNexusDataFile(const ActiveData& ad, const NexusDocument& document,
                          const std::string& path, Platform& platform, const std::string& version);
 

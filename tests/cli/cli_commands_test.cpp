@@ -101,8 +101,14 @@ TEST(Cli, BadSettingsAreRefusedWithTheirMessage) {
             std::string::npos);
   const auto diploid = RunOvelt({"info", kExample, "--location", "Mitochondrial"},
                                 home.Path().string());
-  EXPECT_EQ(diploid.status, 0);  // the notice is answered OK
+  // A doubtful setting is taken only with consent.
+  EXPECT_EQ(diploid.status, 1);
   EXPECT_NE(diploid.err.find("Are you sure that the genome is Diploid ?"), std::string::npos);
+  EXPECT_NE(diploid.err.find("(answered Cancel; add --yes to answer OK)"), std::string::npos);
+  const auto agreed = RunOvelt({"info", kExample, "--location", "Mitochondrial", "--yes"},
+                               home.Path().string());
+  EXPECT_EQ(agreed.status, 0) << agreed.err;
+  EXPECT_NE(agreed.err.find("(answered OK)"), std::string::npos);
 }
 
 TEST(Cli, OutSessionAndGridFiles) {

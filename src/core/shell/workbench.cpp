@@ -199,6 +199,9 @@ void Workbench::CommitLoadedFile(LoadedFile&& file, const std::string& path) {
   data_ = std::move(next);
   nexus_document_.reset();
   if (file.Nexus) nexus_document_ = std::move(file.Nexus->Document);
+  std::error_code absolute_error;
+  const std::filesystem::path read_from = std::filesystem::absolute(path, absolute_error);
+  read_path_ = absolute_error ? path : read_from.string();
   menus_.ActivarMenu(11, data_.FileKind);
   if (data_.FileKind == kNexus)
     menus_.SetText("MenuUpdateNEXUS_Click", "Update NEXUS Data File:  " + data_.FileName);
@@ -225,6 +228,7 @@ bool Workbench::CloseFile(bool ask) {
   output_.ResetOutputs();
   ResetLayers();
   nexus_document_.reset();
+  read_path_.clear();
   menus_.ActivarMenu(12, 0);
   menus_.SetText("MenuUpdateNEXUS_Click", "Update NEXUS Data File");
   RefreshTitle();

@@ -174,8 +174,8 @@ bool ApplyAttributes(const DataOptions& o, Workbench& wb, std::ostream& err) {
   if (NeedsDiploidConfirmation(f.ChromosomalLocation, f.GenomeState) &&
       (f.ChromosomalLocation != d.Format.ChromosomalLocation ||
        f.GenomeState != d.Format.GenomeState)) {
-    if (wb.Ui().MessageBox(kDiploidQuestion + "\n" + InputFileLine(d), MsgIcon::kQuestion,
-                           MsgButtons::kOkCancel) != MsgAnswer::kOk)
+    if (wb.Ui().AskBeforeChange(kDiploidQuestion + "\n" + InputFileLine(d), MsgIcon::kQuestion) !=
+        MsgAnswer::kOk)
       return false;
   }
   d.Format = f;
