@@ -136,11 +136,17 @@ class NexusReader {
       throw NexusFault(kNexusNtax);
     }
 
+    // Every cell takes at least one byte of the matrix: a size the file cannot hold is refused
+    // before anything is sized by it.
+    const NexusCommand* first_matrix = raw.Find("MATRIX");
+    if (first_matrix == nullptr) throw NexusFault(block_error_);
+    RefuseMatrixLargerThanItsText(*first_matrix);
+
     NexusFormat format;
     const NexusCommand* matrix = nullptr;
     size_t label_text = 0;
     std::vector<std::string> label_statements;
-    char_keys_.assign(static_cast<size_t>(nchar_) + 1, std::string());
+    char_keys_.clear();  // sized by the labels, when there are any
     for (const NexusCommand& command : raw.commands) {
       if (command.name == "DIMENSIONS") continue;
       if (command.name == "FORMAT") {
@@ -204,6 +210,15 @@ class NexusReader {
     attributes.MissingSymbol = format.missing;
     attributes.MatchSymbolOn = format.match != '\0' ? 1 : 0;
     attributes.MatchSymbol = format.match != '\0' ? format.match : '.';
+  }
+
+  // NTAX rows of NCHAR cells need at least NTAX x NCHAR bytes; the row that cannot be
+  // complete is missing characters (error 65).
+  void RefuseMatrixLargerThanItsText(const NexusCommand& matrix) const {
+    const auto bytes = static_cast<int64_t>(matrix.matrix_end - matrix.matrix_begin);
+    if (static_cast<int64_t>(ntax_) * nchar_ <= bytes) return;
+    const int64_t full_rows = bytes / nchar_;
+    throw NexusFault(kNexusMissingCell, static_cast<long>(full_rows + 1));
   }
 
   // Rows in taxon order with their names: the labels' order and names where there are labels.
@@ -279,8 +294,9 @@ class NexusReader {
     loaded.BlockLength = 60;
     loaded.Matrix = SeqMatrix(nchar_, ntax_);
     for (int32_t t = 0; t < ntax_; ++t) {
-      const std::string& row = rows_[static_cast<size_t>(t)];
+      std::string& row = rows_[static_cast<size_t>(t)];
       std::memcpy(loaded.Matrix.mutable_sequence(t + 1), row.data(), row.size());
+      std::string().swap(row);  // each row's memory goes as soon as the matrix holds it
       loaded.Names.push_back(FixedName(names_[static_cast<size_t>(t)]));
     }
     for (NexusRawBlock& raw : file_.blocks) extras_.Document.Blocks.push_back(std::move(raw.block));
