@@ -18,12 +18,6 @@ bool NextNonEmptyLine(LineReader& in, std::string_view& line) {
   return false;
 }
 
-void RewindToData(LineReader& in) {
-  in.Rewind();
-  std::string_view header;
-  (void)in.Next(header);
-}
-
 std::string PhylipName(std::string_view line) {
   std::string_view field = line.substr(0, 10);
   const size_t last = field.find_last_not_of(' ');

@@ -1,9 +1,14 @@
 #include "formats/update_nexus.h"
 
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
 #include "files/whole_file.h"
 #include "formats/data_file_writer.h"
 #include "formats/nexus_writer.h"
 #include "formats/nexus_writer_blocks.h"
+#include "formats/read_file.h"
 
 namespace ovelt {
 namespace {
@@ -166,9 +171,24 @@ void WriteNexusUpdate(const ActiveData& ad, const NexusDocument& document, const
   out.Finish();
 }
 
+std::optional<std::string> NoFileToUpdate(const std::string& path) {
+  if (path == kStandardInputPath)
+    return "The data were read from standard input: there is no file to update.";
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error))
+    return "The data were read from " + path +
+           ", which is not a regular file: there is no file to update.";
+  return std::nullopt;
+}
+
 bool UpdateNexusDataFile(const ActiveData& ad, const NexusDocument& document,
                          const std::string& path, Platform& platform, const std::string& version) {
   if (ad.FileKind != kNexus) return false;
+  // Standard input or a pipe was read once; writing "back" would go to some other place.
+  if (const std::optional<std::string> refusal = NoFileToUpdate(path)) {
+    platform.MessageBox(*refusal, MsgIcon::kWarning);
+    return false;
+  }
   // Both questions change the user's own file: the first rewrites it, the second drops the
   // excluded sequences from it.
   if (platform.AskBeforeChange(path + " ?", MsgIcon::kQuestion, kUpdateQuestionTitle) !=

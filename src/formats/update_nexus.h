@@ -6,6 +6,7 @@
 // copied as they stood. Blocks the file lacked follow its last block, as the plain writer
 // orders them.
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,10 @@ inline constexpr const char* kUpdateQuestionTitle = "Careful!";
 // the plain NEXUS writer writes it.
 void WriteNexusUpdate(const ActiveData& ad, const NexusDocument& document, const WriterStamp& stamp,
                       const std::vector<std::string>& codon_usage, WriterLines& out);
+
+// The refusal of an update of data read from standard input or from anything but a regular
+// file; nullopt when `path` names a file that can be updated.
+[[nodiscard]] std::optional<std::string> NoFileToUpdate(const std::string& path);
 
 // MenuUpdateNEXUS_Click, with `path` the path the open file was read from. Only for a NEXUS
 // file. The file is replaced whole or not at all. True when the file was written; the caller
