@@ -151,12 +151,14 @@ TEST(MegaInterleaved, CellsOutsideARowAreReport31) {
             kHead + "Illegal sequence name (interleaved format).");
 }
 
-TEST(MegaInterleaved, MoreThan32767SequencesAreABadFile) {
+TEST(MegaInterleaved, MoreThan32767SequencesSayTheLimit) {
   std::string text = "#mega\n";
   for (int s = 1; s <= 32767; ++s) text += "#s" + std::to_string(s) + " A\n";
   EXPECT_EQ(Mega(text, kInterleaved).NumSeqs(), 32767);
   text += "#s32768 A\n";
-  EXPECT_EQ(ErrorOf(text, kMega, kInterleaved), "Input data file: t.txt\n\nBad or unknown file format");
+  EXPECT_EQ(ErrorOf(text, kMega, kInterleaved),
+            kHead + "The file holds more than 32767 sequences. The maximum number of sequences is "
+                    "32767.");
 }
 
 TEST(MegaInterleaved, DotInFirstSequenceIsCodeZero) {

@@ -202,8 +202,15 @@ TEST(NexusReader, EveryFaultHasItsSentence) {
   // 2 and 3: the dimensions.
   EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NCHAR=2;\n" + matrix),
             "Error Reading the NTAX command");
-  EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NTAX=40000 NCHAR=2;\n" + matrix),
+  EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NTAX=0 NCHAR=2;\n" + matrix),
             "Error Reading the NTAX command");
+  // More than the program holds says the limit.
+  EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NTAX=40000 NCHAR=2;\n" + matrix),
+            "The file declares 40000 sequences. The maximum number of sequences is 32767.");
+  EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NTAX=2 NCHAR=0099999999999999999999;\n" +
+                         matrix),
+            "The file declares 99999999999999999999 sites. The maximum number of sites is "
+            "2147483647.");
   EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NTAX=2 NCHAR=two;\n" + matrix),
             "Error Reading the NCHAR command");
   EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NTAX=2;\n" + matrix),

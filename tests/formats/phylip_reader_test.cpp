@@ -52,9 +52,19 @@ TEST(PhylipHeader, BadNumbers) {
   EXPECT_EQ(ErrorOf("5 855 3\n", kPhylip), kPhylipHead + "Invalid number of sites");
   EXPECT_EQ(ErrorOf("5x 855\n", kPhylip), kPhylipHead + "Invalid number of sequences");
   EXPECT_EQ(ErrorOf("0 855\n", kPhylip), kPhylipHead + "Invalid number of sequences");
-  EXPECT_EQ(ErrorOf("2 99999999999\n", kPhylip), kPhylipHead + "Invalid number of sites");
-  // More sequences than a 16-bit count holds.
-  EXPECT_EQ(ErrorOf("32768 5\n", kPhylip), "Input data file: t.txt\n\nBad or unknown file format");
+  // More than the program holds says the limit.
+  EXPECT_EQ(ErrorOf("2 99999999999\n", kPhylip),
+            kPhylipHead + "The file declares 99999999999 sites. The maximum number of sites is "
+                          "2147483647.");
+  EXPECT_EQ(ErrorOf("32768 5\n", kPhylip),
+            kPhylipHead + "The file declares 32768 sequences. The maximum number of sequences is "
+                          "32767.");
+  EXPECT_EQ(ErrorOf("1000000000 10\n", kPhylip),
+            kPhylipHead + "The file declares 1000000000 sequences. The maximum number of sequences "
+                          "is 32767.");
+  // A number of sites the program holds but the file does not is no limit of the program.
+  EXPECT_EQ(ErrorOf("5 1000000000\na         ACGT\n", kPhylip),
+            kPhylipHead + "Invalid number of sites");
 }
 
 TEST(PhylipReader, NameOfTenCharactersRunsStraightIntoTheCells) {
