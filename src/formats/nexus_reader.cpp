@@ -60,6 +60,15 @@ int ChooseTaxaBlock(const NexusFile& file, int data) {
   return last_before >= 0 ? last_before : first;
 }
 
+// A name token as a NEXUS file can hold it again: a word as it stands, a quoted name in single
+// quotes (its own quotes doubled).
+std::string NexusNameAsWritten(const NexusToken& token) {
+  if (token.type != NexusToken::kQuoted) return token.text;
+  std::string quoted = "'";
+  for (char c : token.text) quoted += c == '\'' ? std::string("''") : std::string(1, c);
+  return quoted + "'";
+}
+
 std::vector<std::string> KeysOf(const std::vector<NexusToken>& names) {
   std::vector<std::string> keys;
   keys.reserve(names.size());
@@ -225,11 +234,17 @@ class NexusReader {
   void PlaceRows(NexusMatrix cells, const std::vector<NexusToken>& labels) {
     rows_ = std::move(cells.rows);
     if (labels.empty()) {
-      for (const NexusToken& name : cells.names) names_.push_back(NexusNameText(name));
+      for (const NexusToken& name : cells.names) {
+        names_.push_back(NexusNameText(name));
+        written_names_.push_back(NexusNameAsWritten(name));
+      }
       taxon_keys_ = KeysOf(cells.names);
       return;
     }
-    for (const NexusToken& label : labels) names_.push_back(NexusNameText(label));
+    for (const NexusToken& label : labels) {
+      names_.push_back(NexusNameText(label));
+      written_names_.push_back(NexusNameAsWritten(label));
+    }
     taxon_keys_ = KeysOf(labels);
     if (cells.names.empty()) return;
     // Rows named by the labels in another order move to the labels' places; when a name
@@ -301,6 +316,7 @@ class NexusReader {
     }
     for (NexusRawBlock& raw : file_.blocks) extras_.Document.Blocks.push_back(std::move(raw.block));
     extras_.Document.Trailing = std::move(file_.trailing);
+    extras_.Document.TaxonNames = std::move(written_names_);
     loaded.Nexus = std::move(extras_);
     return loaded;
   }
@@ -315,6 +331,7 @@ class NexusReader {
   int32_t nchar_ = 0;
   std::vector<std::string> rows_;
   std::vector<std::string> names_;
+  std::vector<std::string> written_names_;  // as the file writes them, for an update
   std::vector<std::string> taxon_keys_;
   std::vector<std::string> char_keys_;
 };

@@ -35,7 +35,7 @@ bool CouldBeSequence(char c) {
 }
 
 bool OpensWithName(std::string_view line) {
-  const std::string_view field = line.substr(0, 10);
+  const std::string_view field = line.substr(0, PhylipNameBytes(line));
   for (char c : field) {
     if (!CouldBeSequence(c)) return true;
   }

@@ -19,6 +19,19 @@ struct ReadBlocks {
   KeptStatements taxa_kept, characters_kept, sets_kept, codons_kept;
 };
 
+// The names of the included sequences as the file wrote them; empty (the cleaned names of the
+// included layer then) when the recorded names are not those of the open file's sequences.
+std::vector<std::string> NamesAsWritten(const ActiveData& ad, const NexusDocument& document) {
+  const std::vector<std::string>& all = document.TaxonNames;
+  if (static_cast<int32_t>(all.size()) != ad.TotalSeqs ||
+      ad.SeqIncluded.size() != all.size() + 1)
+    return {};
+  std::vector<std::string> names;
+  for (size_t seq = 1; seq <= all.size(); ++seq)
+    if (ad.SeqIncluded[seq]) names.push_back(all[seq - 1]);
+  return names;
+}
+
 ReadBlocks Survey(const NexusDocument& document) {
   ReadBlocks read;
   for (const NexusBlock& block : document.Blocks) {
@@ -52,8 +65,14 @@ ReadBlocks Survey(const NexusDocument& document) {
 class UpdateWriter {
  public:
   UpdateWriter(const ActiveData& ad, const ReadBlocks& read, const WriterStamp& stamp,
-               const std::vector<std::string>& codon_usage, WriterLines& out)
-      : ad_(ad), read_(read), stamp_(stamp), codon_usage_(codon_usage), out_(out) {}
+               const std::vector<std::string>& codon_usage, std::vector<std::string> names,
+               WriterLines& out)
+      : ad_(ad),
+        read_(read),
+        stamp_(stamp),
+        codon_usage_(codon_usage),
+        names_(std::move(names)),
+        out_(out) {}
 
   void ReadBlock(NexusBlockKind kind) {
     const bool v1 = ad_.Format.NexusVersion == 1;
@@ -62,18 +81,19 @@ class UpdateWriter {
       case NexusBlockKind::kTaxa:
       case NexusBlockKind::kCharacters:
         if (v1) {
-          if (!data_written_) WriteNexusDataBlock(ad_, out_, read_.characters_kept);
+          if (!data_written_) WriteNexusDataBlock(ad_, out_, read_.characters_kept, names_);
           data_written_ = true;
         } else if (kind == NexusBlockKind::kTaxa) {
-          if (!taxa_written_) WriteNexusTaxaBlock(ad_, out_, read_.taxa_kept);
+          if (!taxa_written_) WriteNexusTaxaBlock(ad_, out_, read_.taxa_kept, names_);
           taxa_written_ = true;
         } else {
           if (!taxa_written_ && !read_.taxa) {
-            WriteNexusTaxaBlock(ad_, out_);
+            WriteNexusTaxaBlock(ad_, out_, {}, names_);
             out_.Line("");
             taxa_written_ = true;
           }
-          if (!data_written_) WriteNexusCharactersBlock(ad_, out_, read_.characters_kept);
+          if (!data_written_)
+            WriteNexusCharactersBlock(ad_, out_, read_.characters_kept, names_);
           data_written_ = true;
         }
         break;
@@ -105,7 +125,7 @@ class UpdateWriter {
   void MissingBlocks() {
     if (!data_written_) {
       NewLine();
-      WriteNexusMatrixBlocks(ad_, out_);
+      WriteNexusMatrixBlocks(ad_, out_, {}, {}, names_);
     }
     if (!sets_written_ && HasNexusSets(ad_)) {
       NewLine();
@@ -134,6 +154,7 @@ class UpdateWriter {
   const ReadBlocks& read_;
   const WriterStamp& stamp_;
   const std::vector<std::string>& codon_usage_;
+  const std::vector<std::string> names_;  // as the file wrote them
   WriterLines& out_;
   bool taxa_written_ = false, data_written_ = false, sets_written_ = false, codons_written_ = false,
        own_written_ = false, codon_usage_written_ = false;
@@ -154,7 +175,7 @@ void WriteNexusUpdate(const ActiveData& ad, const NexusDocument& document, const
     return;
   }
   const ReadBlocks read = Survey(document);
-  UpdateWriter writer(ad, read, stamp, codon_usage, out);
+  UpdateWriter writer(ad, read, stamp, codon_usage, NamesAsWritten(ad, document), out);
   out.Kept("#NEXUS");
   for (const NexusBlock& block : document.Blocks) {
     out.Kept(block.Leading);

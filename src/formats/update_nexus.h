@@ -4,7 +4,8 @@
 // blocks, the program's own block and CODONUSAGE are written anew from the open data where
 // the file had them; blocks the reader did not take in, and the comments between blocks, are
 // copied as they stood. Blocks the file lacked follow its last block, as the plain writer
-// orders them.
+// orders them. The names of the sequences are written as the file had them, never cut to the
+// program's field of 20 characters nor cleaned.
 
 #include <optional>
 #include <string>

@@ -75,6 +75,16 @@ TEST(PhylipReader, NameOfTenCharactersRunsStraightIntoTheCells) {
   EXPECT_EQ(Row(f, 2), "AC-??");
 }
 
+// Ten characters, as other programs write them: a letter of two bytes counts once, and the
+// cells start after the tenth character, not after the tenth byte.
+TEST(PhylipReader, ANameOfTenUtf8CharactersRunsIntoTheCells) {
+  const LoadedFile f = Phylip("2 4\nM\xC3\xBCller_A01ACGT\n\xC3\x98st       AGGT\n");
+  EXPECT_EQ(f.Names[1], "M\xC3\xBCller_A01" + std::string(10, ' '));
+  EXPECT_EQ(f.Names[2], "\xC3\x98st" + std::string(17, ' '));
+  EXPECT_EQ(Row(f, 1), "ACGT");
+  EXPECT_EQ(Row(f, 2), "AGGT");
+}
+
 TEST(PhylipReader, NameMayHoldBlanks) {
   const LoadedFile f = Phylip("2 4\nH. Sapiens ACGT\nPan t     AGGT\n");
   EXPECT_EQ(f.Names[1], "H. Sapiens          ");
