@@ -43,6 +43,11 @@ class Platform {
     return MessageBox(text, icon, MsgButtons::kOkCancel, title);
   }
 
+  // Why the refusal just shown was made, for a face whose user does not see the dialog's
+  // fields: the command line prints it on the line under the box. A window shows the fields,
+  // and the box keeps its own words.
+  virtual void ExplainRefusal(const std::string& /*reason*/) {}
+
   // File dialogs; nullopt when cancelled.
   virtual std::optional<std::string> OpenFileName(const std::string& title,
                                                   const std::string& filter) = 0;

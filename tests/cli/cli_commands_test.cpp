@@ -92,7 +92,8 @@ TEST(Cli, BadSettingsAreRefusedWithTheirMessage) {
   EXPECT_NE(name.err.find("Invalid sequence set name"), std::string::npos) << name.err;
   const auto range = RunOvelt({"info", kExample, "--coding", "5-901"}, home.Path().string());
   EXPECT_EQ(range.status, 1);
-  EXPECT_EQ(range.err, "Ovelt:\n Invalid Selection \n");
+  EXPECT_EQ(range.err, "Ovelt:\n Invalid Selection \n"
+                       "The region 5-901 is not within the sites, which run from 1 to 900.\n");
   const auto none = RunOvelt({"info", kExample, "--include", "13"}, home.Path().string());
   EXPECT_EQ(none.status, 1);
   const auto all_out = RunOvelt({"info", kExample, "--exclude", "1-12"}, home.Path().string());
@@ -160,7 +161,8 @@ TEST(Cli, SitesReportsTheHeadAndTheClasses) {
   EXPECT_NE(s.out.find(" Selected region: 2-5   Number of sites: 4\n"), std::string::npos);
   const auto bad = RunOvelt({"sites", data, "--from", "4", "--to", "2"}, home.Path().string());
   EXPECT_EQ(bad.status, 1);
-  EXPECT_EQ(bad.err, "Ovelt:\n Invalid Selection \n");
+  EXPECT_EQ(bad.err, "Ovelt:\n Invalid Selection \n"
+                     "The region 4-2 ends before it begins (the sites run from 1 to 5).\n");
 }
 
 TEST(Cli, CheckRunsTheRefusalsOfACommand) {

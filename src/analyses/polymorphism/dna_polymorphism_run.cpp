@@ -12,8 +12,9 @@ namespace ovelt {
 
 namespace {
 
-bool Refuse(OutputChannel& channel, Platform& platform, const std::string& message) {
-  platform.MessageBox(message, MsgIcon::kWarning);
+bool Refuse(OutputChannel& channel, Platform& platform, const SelectionRefusal& refusal) {
+  platform.MessageBox(refusal.Text, MsgIcon::kWarning);
+  platform.ExplainRefusal(refusal.Reason);
   channel.ReopenDialog = 1;
   return false;
 }
@@ -59,7 +60,8 @@ bool RunDnaPolymorphism(ActiveData& ad, OutputChannel& channel, Platform& platfo
   SelectOneSet(ad, options.SelSet1);
   if (const int32_t minimum = MinimumSequences(kDnaPolymorphismCommand, ad.SelOutCount)) {
     channel.SetBusy(false);
-    return Refuse(channel, platform, TooFewSequencesMessage(minimum));
+    return Refuse(channel, platform,
+                  {TooFewSequencesMessage(minimum), SetTooSmallReason(ad, options.SelSet1, ad.SelOutCount)});
   }
 
   PolyProgress progress;

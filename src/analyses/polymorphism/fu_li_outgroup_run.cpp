@@ -16,7 +16,7 @@ constexpr int32_t kMinimumIntraspecific = 3;
 
 bool RefuseSelection(OutputChannel& channel, Platform& platform, const std::string& message) {
   channel.RunFailed = 1;
-  return RefuseRun(channel, platform, message);
+  return RefuseRun(channel, platform, {message, ""});
 }
 
 void WriteSignificance(JsonText& json, const char* key, double value, FuLiTable table, int32_t n) {

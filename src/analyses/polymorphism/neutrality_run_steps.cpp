@@ -8,9 +8,10 @@
 
 namespace ovelt {
 
-bool RefuseRun(OutputChannel& channel, Platform& platform, const std::string& message) {
+bool RefuseRun(OutputChannel& channel, Platform& platform, const SelectionRefusal& refusal) {
   channel.SetBusy(false);
-  platform.MessageBox(message, MsgIcon::kWarning);
+  platform.MessageBox(refusal.Text, MsgIcon::kWarning);
+  platform.ExplainRefusal(refusal.Reason);
   channel.ReopenDialog = 1;
   return false;
 }
@@ -65,7 +66,8 @@ std::optional<NeutralityRunStart> StartNeutralityRun(ActiveData& ad, OutputChann
   ad.SelSites = ad.NumSites;
   SelectOneSet(ad, options.SelSet1);
   if (const int32_t minimum = MinimumSequences(command, ad.SelOutCount)) {
-    RefuseRun(channel, platform, TooFewSequencesMessage(minimum));
+    RefuseRun(channel, platform,
+              {TooFewSequencesMessage(minimum), SetTooSmallReason(ad, options.SelSet1, ad.SelOutCount)});
     return std::nullopt;
   }
   return start;

@@ -16,8 +16,9 @@
 
 namespace ovelt {
 
-// Shows the message; the dialog stays open (`ReopenDialog`). Always false.
-bool RefuseRun(OutputChannel& channel, Platform& platform, const std::string& message);
+// Shows the message, and why where the face needs it; the dialog stays open (`ReopenDialog`).
+// Always false.
+bool RefuseRun(OutputChannel& channel, Platform& platform, const SelectionRefusal& refusal);
 
 // Shows the message of a failed computation; `RunFailed` is set. Always false.
 bool FailRun(OutputChannel& channel, Platform& platform, const std::string& message);

@@ -14,6 +14,7 @@ namespace {
 bool CheckRegion(ActiveData& ad, OutputChannel& out, Platform& ui, int32_t from, int32_t to) {
   if (RegionIsValid(from, to, ad.NumSites)) return true;
   ui.MessageBox(kInvalidSelection, MsgIcon::kWarning);
+  ui.ExplainRefusal(RegionFaultReason(from, to, ad.NumSites));
   out.ReopenDialog = 1;
   return false;
 }
@@ -58,6 +59,7 @@ bool RunOverview(ActiveData& ad, OutputChannel& out, Platform& ui, const Overvie
   ad.Region = {from, to};
   if (const int32_t minimum = MinimumSequences(kOverviewCode, ad.SelOutCount)) {
     ui.MessageBox(TooFewSequencesMessage(minimum), MsgIcon::kWarning);
+    ui.ExplainRefusal(SetTooSmallReason(ad, options.SelSet1, ad.SelOutCount));
     out.ReopenDialog = 1;
     out.SetBusy(false);
     return false;
@@ -86,8 +88,9 @@ bool RunMultiDomain(ActiveData& ad, OutputChannel& out, Platform& ui,
                     const MultiDomainOptions& given, std::vector<MultiDomainRow>* rows_out) {
   MultiDomainOptions options = given;
   if (options.RegionTo == 0) options.RegionTo = ad.NumSites;
-  if (const auto failure = CheckOptionRanges(options)) {
-    ui.MessageBox(*failure, MsgIcon::kWarning);
+  if (const auto failure = OptionRangeRefusal(options)) {
+    ui.MessageBox(failure->Text, MsgIcon::kWarning);
+    ui.ExplainRefusal(failure->Reason);
     out.ReopenDialog = 1;
     return false;
   }
@@ -96,6 +99,8 @@ bool RunMultiDomain(ActiveData& ad, OutputChannel& out, Platform& ui,
     const auto parsed = ParseDomains(options.Domains, ad.NumSites);
     if (!parsed) {
       ui.MessageBox(kInvalidSelection, MsgIcon::kWarning);
+      ui.ExplainRefusal("Domains are NAME=FROM-TO (several joined by \";\"), with named domains "
+                        "and sites from 1 to " + std::to_string(ad.NumSites) + ".");
       out.ReopenDialog = 1;
       return false;
     }

@@ -10,10 +10,19 @@ namespace ovelt {
 
 namespace {
 
-void Refuse(OutputChannel& out, Platform& ui, const std::string& words) {
+void Refuse(OutputChannel& out, Platform& ui, const std::string& words,
+            const std::string& reason = "") {
   ui.MessageBox(words, MsgIcon::kWarning);
+  ui.ExplainRefusal(reason);
   out.ReopenDialog = 1;
   out.SetBusy(false);
+}
+
+// Why the values of the model were refused, where the box says only " Invalid Selection ".
+std::string ModelValuesReason(const SizeChangeParameters& values) {
+  if (values.ThetaInitial < 0.0) return "Theta initial must not be below 0.";
+  if (values.Tau < 0.0) return "Tau must not be below 0.";
+  return "";
 }
 
 void Fail(OutputChannel& out, Platform& ui, const std::string& words) {
@@ -29,14 +38,16 @@ bool RunSizeChange(ActiveData& ad, OutputChannel& out, Platform& ui,
                    const SizeChangeOptions& given, SizeChangeRun* run) {
   SizeChangeOptions options = given;
   if (options.RegionTo == 0) options.RegionTo = ad.NumSites;
-  if (const auto failure = CheckOptionRanges(options)) {
-    ui.MessageBox(*failure, MsgIcon::kWarning);
+  if (const auto failure = OptionRangeRefusal(options)) {
+    ui.MessageBox(failure->Text, MsgIcon::kWarning);
+    ui.ExplainRefusal(failure->Reason);
     out.ReopenDialog = 1;
     return false;
   }
   const int32_t from = options.RegionFrom, to = options.RegionTo;
   if (!RegionIsValid(from, to, ad.NumSites)) {
     ui.MessageBox(kInvalidSelection, MsgIcon::kWarning);
+    ui.ExplainRefusal(RegionFaultReason(from, to, ad.NumSites));
     out.ReopenDialog = 1;
     return false;
   }
@@ -46,7 +57,8 @@ bool RunSizeChange(ActiveData& ad, OutputChannel& out, Platform& ui,
   SelectOneSet(ad, options.SelSet1);
   ad.Region = {from, to};
   if (const int32_t minimum = MinimumSequences(kSizeChangeCode, ad.SelOutCount)) {
-    Refuse(out, ui, TooFewSequencesMessage(minimum));
+    Refuse(out, ui, TooFewSequencesMessage(minimum),
+           SetTooSmallReason(ad, options.SelSet1, ad.SelOutCount));
     return false;
   }
 
@@ -64,7 +76,7 @@ bool RunSizeChange(ActiveData& ad, OutputChannel& out, Platform& ui,
     }
     const SizeChangeParameters values = ResolveSizeChangeParameters(options, result);
     if (const auto failure = ValidateSizeChange(options, values)) {
-      Refuse(out, ui, *failure);
+      Refuse(out, ui, *failure, *failure == kInvalidSelection ? ModelValuesReason(values) : "");
       return false;
     }
     ExpectSizeChange(result, options, values);

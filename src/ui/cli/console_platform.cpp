@@ -46,6 +46,12 @@ MsgAnswer ConsolePlatform::AskBeforeChange(const std::string& text, MsgIcon, con
   return answer_yes ? MsgAnswer::kOk : MsgAnswer::kCancel;
 }
 
+void ConsolePlatform::ExplainRefusal(const std::string& reason) {
+  if (reason.empty()) return;
+  err_ << reason << "\n";
+  err_.flush();
+}
+
 std::optional<std::string> ConsolePlatform::OpenFileName(const std::string&, const std::string&) {
   return std::nullopt;  // files are named on the command line
 }

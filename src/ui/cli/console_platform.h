@@ -20,6 +20,7 @@ class ConsolePlatform : public Platform {
   // Cancel unless --yes was given: nothing of the user's is changed without consent.
   MsgAnswer AskBeforeChange(const std::string& text, MsgIcon icon,
                             const std::string& title) override;
+  void ExplainRefusal(const std::string& reason) override;
   std::optional<std::string> OpenFileName(const std::string& title,
                                           const std::string& filter) override;
   std::optional<std::string> SaveFileName(const std::string& title, const std::string& filter,

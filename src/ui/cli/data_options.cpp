@@ -121,6 +121,7 @@ bool ApplyCoding(const DataOptions& o, Workbench& wb, std::ostream& err) {
       }
       if (!RegionIsValid(from, to, d.NumSites)) {
         wb.Ui().MessageBox(kInvalidSelection, MsgIcon::kWarning);
+        wb.Ui().ExplainRefusal(RegionFaultReason(from, to, d.NumSites));
         return false;
       }
       changed = (coding ? AssignCodingRegion(d, from, to, first)

@@ -66,6 +66,7 @@ void AddOutputOptions(CLI::App& app, OutputOptions& o) {
   app.add_option("--graph", o.graph,
                  "Draw the run's graph on this file (.png, .svg or .bmp), for the commands that "
                  "leave one (sliding windows, mismatch distribution)")
+      ->check(CLI::Validator(GraphFileNameFault, "FILE.png|.svg|.bmp"))
       ->group(group);
 }
 

@@ -41,6 +41,7 @@ bool RunSiteView(Workbench& wb, const SiteViewOptions& o) {
   d.SelSites = d.NumSites;
   if (!RegionIsValid(from, to, d.SelSites)) {
     wb.Ui().MessageBox(kInvalidSelection, MsgIcon::kWarning);
+    wb.Ui().ExplainRefusal(RegionFaultReason(from, to, d.SelSites));
     return false;
   }
   OutputChannel& channel = wb.Output();
@@ -51,6 +52,7 @@ bool RunSiteView(Workbench& wb, const SiteViewOptions& o) {
   SelectOneSet(d, set);
   if (d.SelCount1 < 1) {
     wb.Ui().MessageBox(TooFewSequencesMessage(1), MsgIcon::kWarning);
+    wb.Ui().ExplainRefusal(SetTooSmallReason(d, set, d.SelCount1));
     return false;
   }
 
