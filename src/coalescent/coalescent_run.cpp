@@ -44,6 +44,16 @@ std::optional<SimulationMessage> RunCoalescent(OutputChannel& channel, const Sim
   return std::nullopt;
 }
 
+std::optional<SimulationMessage> NoEffectiveReplicatesNotice(const CoalescentRun& run) {
+  if (run.Result.EffectiveReplicates > 0) return std::nullopt;
+  const StatisticEntry* e = FindStatistic(run.Input.StatisticCode);
+  const std::string name = e != nullptr ? e->Name : "the statistic";
+  return SimulationMessage{"There are 0 effective replicates: no replicate gave a value of " +
+                           name +
+                           ".\nThe confidence limits, the probability and the average values "
+                           "can not be determined. Try a larger theta or more replicates."};
+}
+
 void WriteJson(JsonText& json, const CoalescentRun& run) {
   const SimulationSpec& s = run.Input;
   const SimulationResult& r = run.Result;

@@ -32,6 +32,12 @@ struct CoalescentRun {
                                                              int32_t threads = 1,
                                                              CoalescentRun* run = nullptr);
 
+// The notice of a run in which no replicate gave a value of the statistic (with a theta as small
+// as 1e-7 no simulated sample has a segregating site, and Tajima's D of such a sample is not
+// defined): the limits, the probability and the averages then stand for nothing, and the report
+// alone would show them as plain zeros. nullopt when a replicate counted.
+[[nodiscard]] std::optional<SimulationMessage> NoEffectiveReplicatesNotice(const CoalescentRun& run);
+
 // The inputs and the results as one JSON object of plain numbers.
 void WriteJson(JsonText& json, const CoalescentRun& run);
 

@@ -1,7 +1,7 @@
 #pragma once
 // The binding of an analysis of the open data file, made from its parts:
 //
-//   Validate  (options, data) -> the refusal's words, or nothing      the dialog's checks on OK
+//   Validate  (options, data) -> the refusal (words, why), or nothing  the dialog's checks on OK
 //   BusyWords (options) -> the status line while it runs
 //   Select    (data, options) -> Selection                            sets and region of the run
 //   Compute   (selection, options, progress) -> Result                numbers only
@@ -38,7 +38,7 @@ inline constexpr const char* kNoDataFile = "There is no data file open.";
 
 template <class Options, class Result>
 struct AnalysisParts {
-  std::function<std::optional<std::string>(const Options&, const ActiveData&)> Validate;
+  std::function<std::optional<SelectionRefusal>(const Options&, const ActiveData&)> Validate;
   std::function<std::string(const Options&)> BusyWords;
   std::function<Selection(const ActiveData&, const Options&)> Select;
   std::function<Result(const Selection&, const Options&, const Progress&)> Compute;
@@ -70,14 +70,15 @@ class AnalysisBinding final : public CommandBinding {
     // The menus offer an analysis only while a file is open; a caller that forgot is told so.
     if (context.Data == nullptr) Fail(kNoDataFile);
     const ActiveData& data = *context.Data;
-    if (auto refusal = CheckOptionRanges(options)) Refuse(*refusal);
+    if (auto refusal = OptionRangeRefusal(options)) Refuse(*refusal);
     if (parts_.Validate) {
       if (auto refusal = parts_.Validate(options, data)) Refuse(*refusal);
     }
     if (context.Begin) context.Begin(parts_.BusyWords ? parts_.BusyWords(options) : "");
     const Selection selection = parts_.Select(data, options);
     if (selection.SelOutCount < context.MinimumSequences)
-      Refuse(TooFewSequencesMessage(context.MinimumSequences));
+      Refuse(TooFewSequencesMessage(context.MinimumSequences),
+             SetTooSmallReason(data, selection.SelSet1, selection.SelOutCount));
     const Result result = parts_.Compute(selection, options, context.Progress);
     CommandProduct product;
     product.Report = parts_.Report(result, selection, options);

@@ -9,6 +9,9 @@
 
 #include <stdexcept>
 #include <string>
+#include <utility>
+
+#include "core/region_check.h"
 
 namespace ovelt {
 
@@ -16,16 +19,23 @@ enum class FailureKind { kRefused, kFailed, kTooBig };
 
 class CommandFailure : public std::runtime_error {
  public:
-  CommandFailure(FailureKind kind, const std::string& message)
-      : std::runtime_error(message), kind_(kind) {}
+  CommandFailure(FailureKind kind, const std::string& message, std::string reason = "")
+      : std::runtime_error(message), kind_(kind), reason_(std::move(reason)) {}
   [[nodiscard]] FailureKind Kind() const { return kind_; }
+  // Why, where the words of the box do not say it (" Invalid Selection "): the command line
+  // prints it under the box; empty otherwise.
+  [[nodiscard]] const std::string& Reason() const { return reason_; }
 
  private:
   FailureKind kind_;
+  std::string reason_;
 };
 
-[[noreturn]] inline void Refuse(const std::string& message) {
-  throw CommandFailure(FailureKind::kRefused, message);
+[[noreturn]] inline void Refuse(const std::string& message, std::string reason = "") {
+  throw CommandFailure(FailureKind::kRefused, message, std::move(reason));
+}
+[[noreturn]] inline void Refuse(const SelectionRefusal& refusal) {
+  throw CommandFailure(FailureKind::kRefused, refusal.Text, refusal.Reason);
 }
 [[noreturn]] inline void Fail(const std::string& message) {
   throw CommandFailure(FailureKind::kFailed, message);

@@ -1,11 +1,11 @@
 #include "core/active_data.h"
 
+#include "core/utf8_text.h"
+
 namespace ovelt {
 
 std::string FixedName(const std::string& name) {
-  std::string fixed = name.substr(0, kNameWidth);
-  fixed.resize(kNameWidth, ' ');
-  return fixed;
+  return FitToCharacters(ShownControls(name), kNameWidth);
 }
 
 }  // namespace ovelt

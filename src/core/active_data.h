@@ -36,7 +36,8 @@ enum FileKindCode : int16_t {
   kFasta = 4,
 };
 
-// Pads or cuts a sequence name to the fixed 20-character field.
+// Pads or cuts a sequence name to the fixed field of 20 characters (a UTF-8 letter is one
+// character and is never split), with control characters shown as "?".
 [[nodiscard]] std::string FixedName(const std::string& name);
 
 // One domain: a named list of site numbers, ascending, each once.

@@ -32,6 +32,8 @@
 #include <utility>
 #include <vector>
 
+#include "core/region_check.h"
+
 namespace ovelt {
 
 struct OptionField {
@@ -73,7 +75,13 @@ class TypedOptions final : public CommandOptions {
   Options Value;
 };
 
-// Checks every Integer, Real and Choice field against its limits; the first failure's message.
+// "Window Length must be from 1 to 900; it is 0.": why a field failed its limits, for a user who
+// does not see the dialog (the label's closing ":" left out).
+[[nodiscard]] std::string OptionRangeReason(const OptionField& field, const std::string& value,
+                                            const std::string& min, const std::string& max);
+
+// Checks every Integer, Real and Choice field against its limits; the first failure's message,
+// and why.
 class OptionRangeCheck final : public OptionVisitor {
  public:
   void Region(int32_t&, int32_t&) override {}
@@ -81,18 +89,30 @@ class OptionRangeCheck final : public OptionVisitor {
   void Flag(bool&, const OptionField&) override {}
   void Text(std::string&, const OptionField&) override {}
   void Integer(int32_t& value, const OptionField& field, int64_t min, int64_t max) override {
-    if (!failure && (value < min || value > max)) failure = field.invalid;
+    if (!failure && (value < min || value > max))
+      Fail(field, std::to_string(value), std::to_string(min), std::to_string(max));
   }
   void Real(double& value, const OptionField& field, double min, double max) override {
-    if (!failure && !(value >= min && value <= max)) failure = field.invalid;
+    if (!failure && !(value >= min && value <= max))
+      Fail(field, Number(value), Number(min), Number(max));
   }
   void Choice(int16_t& value, const OptionField& field, const std::vector<std::string>& texts,
               int16_t first_value) override {
-    if (!failure &&
-        (value < first_value || value >= first_value + static_cast<int16_t>(texts.size())))
-      failure = field.invalid;
+    if (!failure && (value < first_value ||
+                     value >= first_value + static_cast<int16_t>(texts.size())))
+      Fail(field, std::to_string(value), std::to_string(first_value),
+           std::to_string(first_value + static_cast<int>(texts.size()) - 1));
   }
   std::optional<std::string> failure;
+  std::string reason;
+
+ private:
+  void Fail(const OptionField& field, const std::string& value, const std::string& min,
+            const std::string& max) {
+    failure = field.invalid;
+    reason = OptionRangeReason(field, value, min, max);
+  }
+  [[nodiscard]] static std::string Number(double value);
 };
 
 template <class Options>
@@ -100,6 +120,15 @@ template <class Options>
   OptionRangeCheck check;
   options.Visit(check);
   return check.failure;
+}
+
+// The same check, with the reason of a failure.
+template <class Options>
+[[nodiscard]] std::optional<SelectionRefusal> OptionRangeRefusal(Options& options) {
+  OptionRangeCheck check;
+  options.Visit(check);
+  if (!check.failure) return std::nullopt;
+  return SelectionRefusal{*check.failure, check.reason};
 }
 
 }  // namespace ovelt

@@ -14,6 +14,18 @@ inline const std::string kInvalidSelection = " Invalid Selection ";
   return !(to < from || from < 1 || to > sel_sites || from > sel_sites || to < 1);
 }
 
+// Why a region fails the check, for a user who does not see the dialog's fields (the command
+// line prints it under the box): "The region 5-1000 is not within the sites, which run from 1
+// to 900."
+[[nodiscard]] std::string RegionFaultReason(int32_t from, int32_t to, int32_t sel_sites);
+
+// A refused selection: the words of the box (" Invalid Selection " for most) and, where those
+// words do not say it, why (empty otherwise).
+struct SelectionRefusal {
+  std::string Text;
+  std::string Reason;
+};
+
 // Thrown by operations handed a region that fails the check; `what()` is " Invalid Selection ".
 class InvalidRegion : public std::runtime_error {
  public:

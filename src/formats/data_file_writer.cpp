@@ -1,7 +1,6 @@
 #include "formats/data_file_writer.h"
 
-#include <fstream>
-
+#include "files/whole_file.h"
 #include "formats/codon_usage_writer.h"
 #include "formats/fasta_writer.h"
 #include "formats/mega_writer.h"
@@ -75,15 +74,14 @@ void WriteDataFileTo(const ActiveData& ad, const WriterKind& kind, const WriterS
 bool WriteDataFile(const ActiveData& ad, const WriterKind& kind, const std::string& path,
                    const WriterStamp& stamp, const std::vector<std::string>& codon_usage,
                    const WriteProgress& progress) {
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  if (!file) return false;
+  WholeFileWriter file(path);
+  if (!file.Open()) return false;
   // Only NEXUS follows the chosen line ends; the other formats are written with CR + LF.
   const char* delimiter =
       kind.MenuIndex == kNexusWriterIndex ? LineDelimiterText(ad.Format.LineDelimiter) : "\r\n";
-  WriterLines out(file, delimiter, progress);
+  WriterLines out(file.Stream(), delimiter, progress);
   WriteDataFileTo(ad, kind, stamp, codon_usage, out);
-  file.flush();
-  return out.Good();
+  return out.Good() && file.Commit();
 }
 
 std::vector<std::string> CodonUsageForNexus(const ActiveData& ad, Platform& platform) {

@@ -51,8 +51,8 @@ inline constexpr const char* kErrorInSaving = "Error in saving file";
 void WriteDataFileTo(const ActiveData& ad, const WriterKind& kind, const WriterStamp& stamp,
                      const std::vector<std::string>& codon_usage, WriterLines& out);
 
-// The same into the file `path`; false when it could not be opened or written (what was
-// written stays).
+// The same into the file `path`, whole or not at all; false when it could not be written (an
+// old file of that name then stays as it was).
 [[nodiscard]] bool WriteDataFile(const ActiveData& ad, const WriterKind& kind,
                                  const std::string& path, const WriterStamp& stamp,
                                  const std::vector<std::string>& codon_usage,

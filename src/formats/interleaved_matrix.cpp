@@ -6,17 +6,12 @@
 #include "formats/read_messages.h"
 
 namespace ovelt {
-namespace {
-
-constexpr int kMaxSequences = 32767;  // the sequence count is a 16-bit number
-
-}  // namespace
-
 InterleavedMatrix::InterleavedMatrix(std::string path, size_t limit)
     : path_(std::move(path)), limit_(limit), cells_(1), names_(1) {}
 
 int InterleavedMatrix::Add(std::string name) {
-  if (count() >= kMaxSequences) throw ReadError(BadFormatText(path_));
+  if (count() >= kMaxSequences) 
+    throw ReadError(DataFileErrorText(path_, TooManySequencesSentence()));
   cells_.emplace_back();
   cells_.back().Start(limit_);
   names_.push_back(std::move(name));

@@ -1,5 +1,7 @@
 #include "formats/line_reader.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <cstring>
 
@@ -19,6 +21,11 @@ size_t FindByte(const char* data, size_t from, size_t end, char byte) {
 LineReader::LineReader(std::FILE* file, int64_t file_size, ReadProgress progress)
     : file_(file), chunk_(kChunkBytes), total_(file_size), progress_(std::move(progress)) {
   data_ = chunk_.data();
+  struct stat info {};
+  if (::fstat(::fileno(file), &info) == 0 && S_ISREG(info.st_mode)) {
+    start_offset_ = ::ftello(file);
+    seekable_ = start_offset_ >= 0;
+  }
 }
 
 LineReader::LineReader(std::string_view bytes, ReadProgress progress)
@@ -30,11 +37,13 @@ LineReader::LineReader(std::string_view bytes, ReadProgress progress)
 
 bool LineReader::Refill() {
   if (file_ == nullptr || at_eof_) return false;
-  // Keep the unfinished line: move it to the front, and make the buffer larger only when
-  // that line alone fills it.
-  const size_t kept = end_ - pos_;
-  if (kept > 0 && pos_ > 0) std::memmove(chunk_.data(), chunk_.data() + pos_, kept);
-  pos_ = 0;
+  // Keep the unfinished line (and, for input that cannot seek, everything from the mark on):
+  // move it to the front, and make the buffer larger only when that alone fills it.
+  const size_t keep_from = marked_ && !seekable_ ? std::min(mark_pos_, pos_) : pos_;
+  const size_t kept = end_ - keep_from;
+  if (kept > 0 && keep_from > 0) std::memmove(chunk_.data(), chunk_.data() + keep_from, kept);
+  pos_ -= keep_from;
+  if (marked_ && !seekable_) mark_pos_ -= keep_from;
   end_ = kept;
   if (end_ == chunk_.size()) chunk_.resize(chunk_.size() * 2);
   data_ = chunk_.data();
@@ -92,18 +101,46 @@ bool LineReader::Next(std::string_view& line) {
   }
 }
 
+std::string_view LineReader::Peek(size_t max_bytes) {
+  if (skip_lf_) {
+    if (pos_ == end_) Refill();
+    if (pos_ < end_ && data_[pos_] == '\n') {
+      ++pos_;
+      ++consumed_;
+    }
+    skip_lf_ = false;
+  }
+  for (;;) {
+    const size_t held = end_ - pos_;
+    const size_t line_end =
+        std::min(FindByte(data_, pos_, end_, '\r'), FindByte(data_, pos_, end_, '\n'));
+    if (line_end < end_ || held >= max_bytes || at_eof_ || file_ == nullptr || !Refill()) {
+      marks_valid_ = false;
+      return std::string_view(data_ + pos_, std::min({line_end - pos_, held, max_bytes}));
+    }
+  }
+}
+
+void LineReader::Mark() {
+  marked_ = true;
+  mark_pos_ = pos_;
+  mark_consumed_ = consumed_;
+  mark_skip_lf_ = skip_lf_;
+}
+
 void LineReader::Rewind() {
-  if (file_ != nullptr) {
-    std::fseek(file_, 0, SEEK_SET);
+  if (!marked_) return;
+  if (file_ != nullptr && seekable_) {
+    ::fseeko(file_, start_offset_ + mark_consumed_, SEEK_SET);
     std::clearerr(file_);
     pos_ = end_ = 0;
     at_eof_ = false;
   } else {
-    pos_ = 0;
+    pos_ = mark_pos_;
   }
-  skip_lf_ = false;
+  skip_lf_ = mark_skip_lf_;
   marks_valid_ = false;
-  consumed_ = 0;
+  consumed_ = mark_consumed_;
   next_report_at_ = 0;
 }
 

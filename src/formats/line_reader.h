@@ -6,6 +6,11 @@
 // Every line end is understood here, so no reader needs the file rewritten first: the old pass
 // that copied a LF-only file to a temporary ".ric" file with CR + LF line ends is not needed, and
 // no temporary file is ever created.
+//
+// The input is read once, from its start to its end, and never opened again, so standard input,
+// pipes and process substitution read as plain files do. A reader that looks ahead marks where
+// it is and comes back there: a file that can seek is asked to, any other input keeps the bytes
+// read since the mark.
 
 #include <cstdint>
 #include <cstdio>
@@ -31,8 +36,16 @@ class LineReader {
   // until the next call.
   bool Next(std::string_view& line);
 
-  // Back to the first line (the gauge does not go back).
+  // The start of the next line, at most `max_bytes` of it, without taking it: a look at the
+  // beginning of the data that stays bounded whatever the input holds. Valid until the next call.
+  std::string_view Peek(size_t max_bytes);
+
+  // Remembers the place of the next line, until Unmark.
+  void Mark();
+  // Back to the mark (the gauge does not go back); nothing without one.
   void Rewind();
+  // Forgets the mark: bytes before the next line need not be kept any longer.
+  void Unmark() { marked_ = false; }
 
   // Bytes of the data not yet handed out as lines (an upper bound of what is left to read).
   [[nodiscard]] int64_t BytesLeft() const { return total_ - consumed_; }
@@ -43,6 +56,8 @@ class LineReader {
   void ReportProgress();
 
   std::FILE* file_ = nullptr;
+  bool seekable_ = false;       // a regular file, rewound by seeking rather than by keeping bytes
+  int64_t start_offset_ = 0;    // the file's offset when the reader began
   std::vector<char> chunk_;    // file mode: buffer of read bytes
   const char* data_ = nullptr;  // current bytes: [data_ + pos_, data_ + end_)
   size_t pos_ = 0;
@@ -54,6 +69,12 @@ class LineReader {
   size_t next_cr_ = 0;
   size_t next_lf_ = 0;
   bool marks_valid_ = false;
+
+  // The mark: where the next line began, and what was known of the line ends there.
+  bool marked_ = false;
+  size_t mark_pos_ = 0;         // in the buffer, for input that cannot seek
+  int64_t mark_consumed_ = 0;
+  bool mark_skip_lf_ = false;
 
   int64_t total_ = 0;
   int64_t consumed_ = 0;

@@ -18,10 +18,9 @@ namespace {
 
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 
-// The data start at the first line that opens with "#" followed by a name.
-bool OpensData(std::string_view line) {
-  return line.size() >= 2 && line[0] == '#' && !IsBlank(line[1]);
-}
+// The data start at the first line that opens with "#" (after the "#MEGA" line), with its
+// name behind: a "#" alone opens a sequence whose name is empty.
+bool OpensData(std::string_view line) { return !line.empty() && line[0] == '#'; }
 
 // True for a header line that declares a matrix of distances ("DataType=Distance", in any
 // case, with blanks allowed around "=").

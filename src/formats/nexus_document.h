@@ -65,6 +65,10 @@ struct NexusDocument {
   std::vector<NexusBlock> Blocks;  // in file order
   // Everything after the end of the last block.
   std::string Trailing;
+  // Each taxon's name as the file writes it, in taxon order: an update writes these rather than
+  // the names of the 20-character field, which may have been cut or cleaned, so that it never
+  // changes a name in the user's own file.
+  std::vector<std::string> TaxonNames;
 
   [[nodiscard]] bool empty() const { return Blocks.empty() && Trailing.empty(); }
 };

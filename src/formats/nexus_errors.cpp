@@ -8,6 +8,9 @@ NexusFault::NexusFault(int code, long number, char ch)
       number_(number),
       ch_(ch) {}
 
+NexusFault::NexusFault(int code, const std::string& sentence)
+    : std::runtime_error(sentence), code_(code), number_(0), ch_('\0') {}
+
 std::string NexusErrorSentence(int code, long number, char ch) {
   switch (code) {
     case kNexusReadError:

@@ -26,6 +26,7 @@ enum NexusErrorCode : int {
   kNexusDataBlock = 71,
   kNexusTaxaBlock = 72,
   kNexusCharactersBlock = 73,
+  kNexusCapacity = 98,       // more sequences or sites than the program holds
   kNexusErroneousFile = 99,  // any other fault: no matrix at all, for one
 };
 
@@ -34,6 +35,8 @@ class NexusFault : public std::runtime_error {
   // `number`: the site or sequence number that codes 4, 64 and 65 report; `ch`: the
   // character of code 64.
   explicit NexusFault(int code, long number = 0, char ch = '\0');
+  // A fault whose sentence is given whole (kNexusCapacity).
+  NexusFault(int code, const std::string& sentence);
   [[nodiscard]] int code() const { return code_; }
   [[nodiscard]] long number() const { return number_; }
   [[nodiscard]] char character() const { return ch_; }

@@ -2,6 +2,7 @@
 
 #include "core/text_case.h"
 #include "formats/nexus_errors.h"
+#include "formats/read_messages.h"
 
 namespace ovelt {
 
@@ -46,6 +47,17 @@ std::optional<int64_t> WholeNumber(const std::string& text, int64_t max) {
   }
   if (value < 1 || value > max) return std::nullopt;
   return value;
+}
+
+// Digits only, of a value above `limit` (however many digits).
+bool AllDigitsAbove(const std::string& text, int64_t limit) {
+  const size_t first = text.find_first_not_of('0');
+  if (text.empty() || first == std::string::npos) return false;
+  for (char c : text)
+    if (!IsAsciiDigit(c)) return false;
+  const std::string digits = text.substr(first);
+  const std::string most = std::to_string(limit);
+  return digits.size() > most.size() || (digits.size() == most.size() && digits > most);
 }
 
 }  // namespace
@@ -114,8 +126,12 @@ NexusDimensions ReadNexusDimensions(const NexusCommand& command) {
     if (!ntax && !nchar) continue;  // NEWTAXA and the like
     const int code = ntax ? kNexusNtax : kNexusNchar;
     if (i + 2 >= args.size() || !args[i + 1].is('=')) throw NexusFault(code);
-    const std::optional<int64_t> value =
-        WholeNumber(args[i + 2].text, ntax ? 32767 : 2147483647);
+    const std::string& text = args[i + 2].text;
+    const int64_t limit = ntax ? kMaxSequences : kMaxSites;
+    const std::optional<int64_t> value = WholeNumber(text, limit);
+    if (!value && AllDigitsAbove(text, limit))
+      throw NexusFault(kNexusCapacity,
+                       ntax ? DeclaredSequencesSentence(text) : DeclaredSitesSentence(text));
     if (!value) throw NexusFault(code);
     (ntax ? dimensions.ntax : dimensions.nchar) = static_cast<int32_t>(*value);
     i += 2;

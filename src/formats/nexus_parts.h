@@ -56,7 +56,8 @@ struct NexusNames {
   int32_t ntax = 0;
   int32_t nchar = 0;
   std::vector<std::string> taxon_keys;  // 1..ntax, NexusNameKey of each name
-  std::vector<std::string> char_keys;   // 1..nchar, "" where a character has no label
+  std::vector<std::string> char_keys;   // 1..nchar, "" where a character has no label; empty
+                                        // when the file labels no character
   // Number of each key (the first of a repeated one), built from the two lists above.
   std::unordered_map<std::string, int32_t> taxon_numbers;
   std::unordered_map<std::string, int32_t> char_numbers;

@@ -60,6 +60,15 @@ int ChooseTaxaBlock(const NexusFile& file, int data) {
   return last_before >= 0 ? last_before : first;
 }
 
+// A name token as a NEXUS file can hold it again: a word as it stands, a quoted name in single
+// quotes (its own quotes doubled).
+std::string NexusNameAsWritten(const NexusToken& token) {
+  if (token.type != NexusToken::kQuoted) return token.text;
+  std::string quoted = "'";
+  for (char c : token.text) quoted += c == '\'' ? std::string("''") : std::string(1, c);
+  return quoted + "'";
+}
+
 std::vector<std::string> KeysOf(const std::vector<NexusToken>& names) {
   std::vector<std::string> keys;
   keys.reserve(names.size());
@@ -136,11 +145,17 @@ class NexusReader {
       throw NexusFault(kNexusNtax);
     }
 
+    // Every cell takes at least one byte of the matrix: a size the file cannot hold is refused
+    // before anything is sized by it.
+    const NexusCommand* first_matrix = raw.Find("MATRIX");
+    if (first_matrix == nullptr) throw NexusFault(block_error_);
+    RefuseMatrixLargerThanItsText(*first_matrix);
+
     NexusFormat format;
     const NexusCommand* matrix = nullptr;
     size_t label_text = 0;
     std::vector<std::string> label_statements;
-    char_keys_.assign(static_cast<size_t>(nchar_) + 1, std::string());
+    char_keys_.clear();  // sized by the labels, when there are any
     for (const NexusCommand& command : raw.commands) {
       if (command.name == "DIMENSIONS") continue;
       if (command.name == "FORMAT") {
@@ -206,15 +221,30 @@ class NexusReader {
     attributes.MatchSymbol = format.match != '\0' ? format.match : '.';
   }
 
+  // NTAX rows of NCHAR cells need at least NTAX x NCHAR bytes; the row that cannot be
+  // complete is missing characters (error 65).
+  void RefuseMatrixLargerThanItsText(const NexusCommand& matrix) const {
+    const auto bytes = static_cast<int64_t>(matrix.matrix_end - matrix.matrix_begin);
+    if (static_cast<int64_t>(ntax_) * nchar_ <= bytes) return;
+    const int64_t full_rows = bytes / nchar_;
+    throw NexusFault(kNexusMissingCell, static_cast<long>(full_rows + 1));
+  }
+
   // Rows in taxon order with their names: the labels' order and names where there are labels.
   void PlaceRows(NexusMatrix cells, const std::vector<NexusToken>& labels) {
     rows_ = std::move(cells.rows);
     if (labels.empty()) {
-      for (const NexusToken& name : cells.names) names_.push_back(NexusNameText(name));
+      for (const NexusToken& name : cells.names) {
+        names_.push_back(NexusNameText(name));
+        written_names_.push_back(NexusNameAsWritten(name));
+      }
       taxon_keys_ = KeysOf(cells.names);
       return;
     }
-    for (const NexusToken& label : labels) names_.push_back(NexusNameText(label));
+    for (const NexusToken& label : labels) {
+      names_.push_back(NexusNameText(label));
+      written_names_.push_back(NexusNameAsWritten(label));
+    }
     taxon_keys_ = KeysOf(labels);
     if (cells.names.empty()) return;
     // Rows named by the labels in another order move to the labels' places; when a name
@@ -279,12 +309,14 @@ class NexusReader {
     loaded.BlockLength = 60;
     loaded.Matrix = SeqMatrix(nchar_, ntax_);
     for (int32_t t = 0; t < ntax_; ++t) {
-      const std::string& row = rows_[static_cast<size_t>(t)];
+      std::string& row = rows_[static_cast<size_t>(t)];
       std::memcpy(loaded.Matrix.mutable_sequence(t + 1), row.data(), row.size());
+      std::string().swap(row);  // each row's memory goes as soon as the matrix holds it
       loaded.Names.push_back(FixedName(names_[static_cast<size_t>(t)]));
     }
     for (NexusRawBlock& raw : file_.blocks) extras_.Document.Blocks.push_back(std::move(raw.block));
     extras_.Document.Trailing = std::move(file_.trailing);
+    extras_.Document.TaxonNames = std::move(written_names_);
     loaded.Nexus = std::move(extras_);
     return loaded;
   }
@@ -299,6 +331,7 @@ class NexusReader {
   int32_t nchar_ = 0;
   std::vector<std::string> rows_;
   std::vector<std::string> names_;
+  std::vector<std::string> written_names_;  // as the file writes them, for an update
   std::vector<std::string> taxon_keys_;
   std::vector<std::string> char_keys_;
 };

@@ -27,17 +27,22 @@ void WriteKeptStatements(const std::vector<std::string>& statements, WriterLines
 void WriteNexusHead(const WriterStamp& stamp, WriterLines& out);
 
 // The matrix of the included layer in one DATA block (old version), or its names in a TAXA
-// block and its cells in a CHARACTERS block (NEXUS v. 1).
-void WriteNexusDataBlock(const ActiveData& ad, WriterLines& out, const KeptStatements& kept = {});
-void WriteNexusTaxaBlock(const ActiveData& ad, WriterLines& out, const KeptStatements& kept = {});
+// block and its cells in a CHARACTERS block (NEXUS v. 1). The names are those of the included
+// layer, cleaned for NEXUS, unless `names` gives them (one per included sequence, as written).
+void WriteNexusDataBlock(const ActiveData& ad, WriterLines& out, const KeptStatements& kept = {},
+                         const std::vector<std::string>& names = {});
+void WriteNexusTaxaBlock(const ActiveData& ad, WriterLines& out, const KeptStatements& kept = {},
+                         const std::vector<std::string>& names = {});
 void WriteNexusCharactersBlock(const ActiveData& ad, WriterLines& out,
-                               const KeptStatements& kept = {});
+                               const KeptStatements& kept = {},
+                               const std::vector<std::string>& names = {});
 
 // The matrix of the included layer, as the version asks: with `NexusVersion` 1 one DATA block,
 // otherwise (2, or 0 not yet chosen) a TAXA block, an empty line and a CHARACTERS block.
 void WriteNexusMatrixBlocks(const ActiveData& ad, WriterLines& out,
                             const KeptStatements& taxa_kept = {},
-                            const KeptStatements& characters_kept = {});
+                            const KeptStatements& characters_kept = {},
+                            const std::vector<std::string>& names = {});
 
 // True when the SETS block has at least one set to hold.
 [[nodiscard]] bool HasNexusSets(const ActiveData& ad);

@@ -66,7 +66,8 @@ void WriteMatrix(const ActiveData& ad, const std::vector<std::string>& names,
   out.Line("END;");
 }
 
-std::vector<std::string> NexusNames(const ActiveData& ad) {
+std::vector<std::string> NexusNames(const ActiveData& ad, const std::vector<std::string>& given) {
+  if (static_cast<int32_t>(given.size()) == ad.NumSeqs) return given;
   std::vector<std::string> names;
   for (int32_t s = 1; s <= ad.NumSeqs; ++s)
     names.push_back(NexusName(ad.IncNames[static_cast<size_t>(s)]));
@@ -75,8 +76,9 @@ std::vector<std::string> NexusNames(const ActiveData& ad) {
 
 }  // namespace
 
-void WriteNexusDataBlock(const ActiveData& ad, WriterLines& out, const KeptStatements& kept) {
-  const std::vector<std::string> names = NexusNames(ad);
+void WriteNexusDataBlock(const ActiveData& ad, WriterLines& out, const KeptStatements& kept,
+                         const std::vector<std::string>& given) {
+  const std::vector<std::string> names = NexusNames(ad, given);
   out.Line("BEGIN DATA;");
   WriteKeptStatements(kept.Head, out);
   out.Line("DIMENSIONS NTAX=" + std::to_string(ad.NumSeqs) +
@@ -85,8 +87,9 @@ void WriteNexusDataBlock(const ActiveData& ad, WriterLines& out, const KeptState
   WriteMatrix(ad, names, kept, out);
 }
 
-void WriteNexusTaxaBlock(const ActiveData& ad, WriterLines& out, const KeptStatements& kept) {
-  const std::vector<std::string> names = NexusNames(ad);
+void WriteNexusTaxaBlock(const ActiveData& ad, WriterLines& out, const KeptStatements& kept,
+                         const std::vector<std::string>& given) {
+  const std::vector<std::string> names = NexusNames(ad, given);
   out.Line("BEGIN TAXA;");
   WriteKeptStatements(kept.Head, out);
   out.Line("DIMENSIONS NTAX=" + std::to_string(ad.NumSeqs) + ";");
@@ -96,8 +99,9 @@ void WriteNexusTaxaBlock(const ActiveData& ad, WriterLines& out, const KeptState
   out.Line("END;");
 }
 
-void WriteNexusCharactersBlock(const ActiveData& ad, WriterLines& out, const KeptStatements& kept) {
-  const std::vector<std::string> names = NexusNames(ad);
+void WriteNexusCharactersBlock(const ActiveData& ad, WriterLines& out, const KeptStatements& kept,
+                               const std::vector<std::string>& given) {
+  const std::vector<std::string> names = NexusNames(ad, given);
   out.Line("BEGIN CHARACTERS;");
   WriteKeptStatements(kept.Head, out);
   out.Line("DIMENSIONS NCHAR=" + std::to_string(ad.NumSites) + ";");
@@ -106,14 +110,15 @@ void WriteNexusCharactersBlock(const ActiveData& ad, WriterLines& out, const Kep
 }
 
 void WriteNexusMatrixBlocks(const ActiveData& ad, WriterLines& out, const KeptStatements& taxa_kept,
-                            const KeptStatements& characters_kept) {
+                            const KeptStatements& characters_kept,
+                            const std::vector<std::string>& names) {
   if (ad.Format.NexusVersion == 1) {
-    WriteNexusDataBlock(ad, out, characters_kept);
+    WriteNexusDataBlock(ad, out, characters_kept, names);
     return;
   }
-  WriteNexusTaxaBlock(ad, out, taxa_kept);
+  WriteNexusTaxaBlock(ad, out, taxa_kept, names);
   out.Line("");
-  WriteNexusCharactersBlock(ad, out, characters_kept);
+  WriteNexusCharactersBlock(ad, out, characters_kept, names);
 }
 
 }  // namespace ovelt

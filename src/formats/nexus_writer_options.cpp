@@ -3,12 +3,12 @@
 #include <string_view>
 
 namespace ovelt {
-namespace {
-
 bool BlockedInSymbol(char c) {
   constexpr std::string_view kBlocked = "()[]{}/\\,;:=*'`<>AUTCGautcg";
   return kBlocked.find(c) != std::string_view::npos;
 }
+
+namespace {
 
 bool IsBlankSymbol(const std::string& typed) {
   const std::string symbol = TypedSymbol(typed);

@@ -57,6 +57,11 @@ struct NexusSaveOptions {
 // The "Default" button: the defaults of a freshly opened file.
 [[nodiscard]] NexusSaveOptions DefaultNexusSaveOptions();
 
+// A character no symbol field takes: one that NEXUS reserves ("(", ")", "[", "]", "{", "}",
+// "/", "\", ",", ";", ":", "=", "*", "'", "`", "<", ">") or a nucleotide letter A, U, T, C, G
+// in either case.
+[[nodiscard]] bool BlockedInSymbol(char c);
+
 // A symbol field as typing leaves it: the characters that NEXUS reserves ("(", ")", "[", "]",
 // "{", "}", "/", "\", ",", ";", ":", "=", "*", "'", "`", "<", ">") and the nucleotide letters
 // A, U, T, C, G in either case are blocked, and the field holds one character.

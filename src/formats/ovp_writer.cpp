@@ -1,9 +1,8 @@
 #include "formats/ovp_writer.h"
 
-#include <fstream>
-
 #include "core/genetic_code.h"
 #include "core/text_case.h"
+#include "files/whole_file.h"
 
 namespace ovelt {
 
@@ -73,12 +72,10 @@ std::vector<std::string> CodonUsageBlockLines(const GCPrefUnPref& store,
 }
 
 bool WriteOvpFile(const std::string& path, const CodPrefUnPref& table) {
-  std::ofstream out(path, std::ios::binary);
-  if (!out) return false;
-  out << "BEGIN CODONUSAGE;\r\n";
-  for (const std::string& line : PrefTableLines(table)) out << line << "\r\n";
-  out << "END;\r\n";
-  return static_cast<bool>(out);
+  std::string text = "BEGIN CODONUSAGE;\r\n";
+  for (const std::string& line : PrefTableLines(table)) text += line + "\r\n";
+  text += "END;\r\n";
+  return WriteWholeFile(path, text);
 }
 
 }  // namespace ovelt

@@ -25,8 +25,8 @@ namespace ovelt {
 // The lines of one table, from its PREFUNPREFCODONS line to its ";".
 [[nodiscard]] std::vector<std::string> PrefTableLines(const CodPrefUnPref& table);
 
-// Writes a ".ovp" file holding `table` alone, lines ended by CR + LF. False when the file could
-// not be written.
+// Writes a ".ovp" file holding `table` alone, lines ended by CR + LF, whole or not at all. False
+// when the file could not be written.
 [[nodiscard]] bool WriteOvpFile(const std::string& path, const CodPrefUnPref& table);
 
 }  // namespace ovelt

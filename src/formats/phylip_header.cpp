@@ -10,9 +10,6 @@
 namespace ovelt {
 namespace {
 
-constexpr int64_t kMaxSequences = 32767;         // a 16-bit count
-constexpr int64_t kMaxSites = 2147483647;        // a 32-bit count
-
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 // Value of a run of digits, held at `cap` + 1 once it passes `cap`.
@@ -57,11 +54,14 @@ PhylipHeader ParsePhylipHeader(std::string_view line, const std::string& path) {
 
   PhylipHeader header;
   const int64_t seqs = DigitsValue(seqs_text, kMaxSequences);
-  if (seqs > kMaxSequences) throw ReadError(BadFormatText(path));
+  if (seqs > kMaxSequences)
+    throw ReadError(PhylipErrorText(path, DeclaredSequencesSentence(seqs_text)));
   int64_t sites = 0;
   if (digits_from != std::string_view::npos) {
-    sites = DigitsValue(rest.substr(digits_from, digits_to - digits_from), kMaxSites);
-    if (sites > kMaxSites) throw ReadError(PhylipErrorText(path, kPhylipInvalidSites));
+    const std::string_view sites_text = rest.substr(digits_from, digits_to - digits_from);
+    sites = DigitsValue(sites_text, kMaxSites);
+    if (sites > kMaxSites)
+      throw ReadError(PhylipErrorText(path, DeclaredSitesSentence(sites_text)));
   }
   // A matrix of genetic distances has one number in its first line, so it arrives here.
   if (sites == 0) throw ReadError(PhylipDistancesText(path));

@@ -35,7 +35,7 @@ bool CouldBeSequence(char c) {
 }
 
 bool OpensWithName(std::string_view line) {
-  const std::string_view field = line.substr(0, 10);
+  const std::string_view field = line.substr(0, PhylipNameBytes(line));
   for (char c : field) {
     if (!CouldBeSequence(c)) return true;
   }
@@ -44,7 +44,7 @@ bool OpensWithName(std::string_view line) {
 
 // True when every sequence, read the sequential way, has exactly the number of sites.
 bool SequentialCountsFit(LineReader& in, const PhylipHeader& header) {
-  RewindToData(in);
+  in.Rewind();
   const auto sites = static_cast<size_t>(header.sites);
   std::string_view line;
   for (int32_t s = 1; s <= header.seqs; ++s) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/utf8_text.h"
 #include "formats/phylip_parts.h"
 
 namespace ovelt {
@@ -18,20 +19,14 @@ bool NextNonEmptyLine(LineReader& in, std::string_view& line) {
   return false;
 }
 
-void RewindToData(LineReader& in) {
-  in.Rewind();
-  std::string_view header;
-  (void)in.Next(header);
-}
+size_t PhylipNameBytes(std::string_view line) { return BytesOfCharacters(line, 10); }
 
 std::string PhylipName(std::string_view line) {
-  std::string_view field = line.substr(0, 10);
+  std::string_view field = line.substr(0, PhylipNameBytes(line));
   const size_t last = field.find_last_not_of(' ');
   return std::string(last == std::string_view::npos ? std::string_view() : field.substr(0, last + 1));
 }
 
-std::string_view PhylipCells(std::string_view line) {
-  return line.size() > 10 ? line.substr(10) : std::string_view();
-}
+std::string_view PhylipCells(std::string_view line) { return line.substr(PhylipNameBytes(line)); }
 
 }  // namespace ovelt

@@ -32,8 +32,9 @@ struct PhylipLayout {
 [[nodiscard]] bool IsEmptyLine(std::string_view line);
 // The next line that is not empty; false at the end of the file.
 [[nodiscard]] bool NextNonEmptyLine(LineReader& in, std::string_view& line);
-// Back to the first line after the header.
-void RewindToData(LineReader& in);
+// The bytes of the name field: ten characters, a letter written in UTF-8 counting as one, as
+// the writers of other programs count them.
+[[nodiscard]] size_t PhylipNameBytes(std::string_view line);
 // The name field: the first ten characters without trailing blanks.
 [[nodiscard]] std::string PhylipName(std::string_view line);
 // What follows the name field.

@@ -116,10 +116,13 @@ LoadedFile ReadPhylip(LineReader& in, const std::string& path) {
   std::string_view line;
   const std::string first = in.Next(line) ? std::string(line) : std::string();
   const PhylipHeader header = ParsePhylipHeader(first, path);
+  // The layout test reads ahead; the matrix is then read from the line after the header.
+  in.Mark();
   const PhylipLayout layout = DecidePhylipLayout(in, header, path);
+  in.Rewind();
+  in.Unmark();
 
   LoadedFile out;
-  RewindToData(in);
   if (layout.interleaved) {
     ReadInterleaved(in, header, path, out);
     out.Interleaved = 1;

@@ -1,6 +1,8 @@
 // Opening a data file: find its kind from the first line and hand it to that kind's reader.
 // A reader either returns a complete file layer or throws; nothing is ever half returned.
 
+#include <sys/stat.h>
+
 #include <cstdio>
 #include <filesystem>
 #include <functional>
@@ -21,13 +23,14 @@ namespace {
 
 using MegaQuestion = std::function<std::optional<MegaOptions>()>;
 
+// More than any first line the kind test needs to see (a PHYLIP header's blanks and digits).
+constexpr size_t kKindTestBytes = 4096;
+
 LoadedFile ReadKind(LineReader& in, const std::string& path, std::optional<int> kind,
                     const MegaQuestion& ask_mega) {
-  if (!kind) {
-    std::string_view first;
-    kind = DetectFileKind(in.Next(first) ? std::string(first) : std::string());
-    in.Rewind();
-  }
+  // The kind test looks at the start of the first line only, so that a file without line ends
+  // (a device such as /dev/zero) is refused at once rather than read without end.
+  if (!kind) kind = DetectFileKind(std::string(in.Peek(kKindTestBytes)));
   switch (*kind) {
     case kNbrf:
       return ReadNbrf(in, path);
@@ -67,13 +70,21 @@ struct FileCloser {
 
 LoadedFile ReadDataFile(const std::string& path, Platform& platform,
                         const ReadProgress& progress) {
-  std::error_code error;
-  if (std::filesystem::is_directory(path, error)) throw ReadError(FileNotOpenedText(path));
-  std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "rb"));
-  if (!file) throw ReadError(FileNotOpenedText(path));
-  const std::uintmax_t size = std::filesystem::file_size(path, error);
-  LineReader in(file.get(), error ? 0 : static_cast<int64_t>(size), progress);
-  const std::string file_name = std::filesystem::path(path).filename().string();
+  const bool from_stdin = path == kStandardInputPath;
+  std::unique_ptr<std::FILE, FileCloser> opened;
+  if (!from_stdin) {
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error)) throw ReadError(FileNotOpenedText(path));
+    opened.reset(std::fopen(path.c_str(), "rb"));
+    if (!opened) throw ReadError(FileNotOpenedText(path));
+  }
+  std::FILE* file = from_stdin ? stdin : opened.get();
+  // The size, for the gauge, of the file already open: a pipe has none.
+  struct stat info {};
+  const bool sized = ::fstat(::fileno(file), &info) == 0 && S_ISREG(info.st_mode);
+  LineReader in(file, sized ? static_cast<int64_t>(info.st_size) : 0, progress);
+  const std::string file_name =
+      from_stdin ? path : std::filesystem::path(path).filename().string();
   return ReadGuarded(in, path, std::nullopt,
                      [&] { return platform.AskMegaOptions(file_name); });
 }

@@ -52,8 +52,12 @@ class ReadCancelled : public std::runtime_error {
 // Progress of a read in percent (0..100).
 using ReadProgress = std::function<void(int)>;
 
-// Reads `path`. Throws ReadError with the reader's message, or ReadCancelled.
-// `platform` answers the MEGA dialog and shows status texts.
+// The name that stands for standard input.
+inline constexpr const char* kStandardInputPath = "-";
+
+// Reads `path` ("-": standard input), once from start to end, so that pipes read as files do.
+// Throws ReadError with the reader's message, or ReadCancelled. `platform` answers the MEGA
+// dialog and shows status texts.
 [[nodiscard]] LoadedFile ReadDataFile(const std::string& path, Platform& platform,
                                       const ReadProgress& progress = {});
 

@@ -12,7 +12,27 @@ std::string WithAmbiguityNote(std::string sentence, char c) {
   return sentence;
 }
 
+std::string WithoutLeadingZeros(std::string_view digits) {
+  const size_t first = digits.find_first_not_of('0');
+  return first == std::string_view::npos ? "0" : std::string(digits.substr(first));
+}
+
 }  // namespace
+
+std::string TooManySequencesSentence() {
+  return "The file holds more than " + std::to_string(kMaxSequences) +
+         " sequences. The maximum number of sequences is " + std::to_string(kMaxSequences) + ".";
+}
+
+std::string DeclaredSequencesSentence(std::string_view digits) {
+  return "The file declares " + WithoutLeadingZeros(digits) +
+         " sequences. The maximum number of sequences is " + std::to_string(kMaxSequences) + ".";
+}
+
+std::string DeclaredSitesSentence(std::string_view digits) {
+  return "The file declares " + WithoutLeadingZeros(digits) +
+         " sites. The maximum number of sites is " + std::to_string(kMaxSites) + ".";
+}
 
 std::string InvalidCharacterSentence(char c) {
   return WithAmbiguityNote(std::string("Invalid character detected:  '") + c + "'", c);

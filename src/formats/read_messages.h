@@ -2,7 +2,9 @@
 // The texts of the boxes that report a file that cannot be read. Each function returns the whole
 // text of one box, lines joined by "\n".
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace ovelt {
 
@@ -28,6 +30,17 @@ inline constexpr const char* kAmbiguityNote = "NOTE: Ovelt does not accept DNA a
 inline constexpr const char* kOutOfMemoryText =
     "        Out of memory !!!\nTry to reduce the number of programs running, or try to "
     "increase the RAM or virtual memory.";
+
+// The most sequences and sites a file may hold: the counts are 16- and 32-bit numbers.
+inline constexpr int32_t kMaxSequences = 32767;
+inline constexpr int64_t kMaxSites = 2147483647;
+
+// "The file holds more than 32767 sequences. The maximum number of sequences is 32767."
+[[nodiscard]] std::string TooManySequencesSentence();
+// "The file declares N sequences. The maximum number of sequences is 32767.", N the digits of
+// the file without their leading zeros; the same for sites.
+[[nodiscard]] std::string DeclaredSequencesSentence(std::string_view digits);
+[[nodiscard]] std::string DeclaredSitesSentence(std::string_view digits);
 
 // "Invalid character detected:  'c'", with the note when `c` is an ambiguity code.
 [[nodiscard]] std::string InvalidCharacterSentence(char c);

@@ -6,17 +6,12 @@
 #include "formats/read_messages.h"
 
 namespace ovelt {
-namespace {
-
-constexpr int kMaxSequences = 32767;  // the sequence count is a 16-bit number
-
-}  // namespace
-
 SequentialMatrix::SequentialMatrix(std::string path, int32_t known_sites)
     : path_(std::move(path)), sites_(known_sites) {}
 
 SequenceCells& SequentialMatrix::Begin(std::string_view name) {
-  if (current() >= kMaxSequences) throw ReadError(BadFormatText(path_));
+  if (current() >= kMaxSequences)
+    throw ReadError(DataFileErrorText(path_, TooManySequencesSentence()));
   names_.push_back(FixedName(std::string(name)));
   cells_.Start(sites_ >= 0 ? static_cast<size_t>(sites_) : SequenceCells::kNoLimit);
   return cells_;

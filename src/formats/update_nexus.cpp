@@ -1,10 +1,14 @@
 #include "formats/update_nexus.h"
 
-#include <fstream>
+#include <filesystem>
+#include <optional>
+#include <system_error>
 
+#include "files/whole_file.h"
 #include "formats/data_file_writer.h"
 #include "formats/nexus_writer.h"
 #include "formats/nexus_writer_blocks.h"
+#include "formats/read_file.h"
 
 namespace ovelt {
 namespace {
@@ -14,6 +18,19 @@ struct ReadBlocks {
   bool taxa = false;  // the names came from a TAXA block of their own
   KeptStatements taxa_kept, characters_kept, sets_kept, codons_kept;
 };
+
+// The names of the included sequences as the file wrote them; empty (the cleaned names of the
+// included layer then) when the recorded names are not those of the open file's sequences.
+std::vector<std::string> NamesAsWritten(const ActiveData& ad, const NexusDocument& document) {
+  const std::vector<std::string>& all = document.TaxonNames;
+  if (static_cast<int32_t>(all.size()) != ad.TotalSeqs ||
+      ad.SeqIncluded.size() != all.size() + 1)
+    return {};
+  std::vector<std::string> names;
+  for (size_t seq = 1; seq <= all.size(); ++seq)
+    if (ad.SeqIncluded[seq]) names.push_back(all[seq - 1]);
+  return names;
+}
 
 ReadBlocks Survey(const NexusDocument& document) {
   ReadBlocks read;
@@ -48,8 +65,14 @@ ReadBlocks Survey(const NexusDocument& document) {
 class UpdateWriter {
  public:
   UpdateWriter(const ActiveData& ad, const ReadBlocks& read, const WriterStamp& stamp,
-               const std::vector<std::string>& codon_usage, WriterLines& out)
-      : ad_(ad), read_(read), stamp_(stamp), codon_usage_(codon_usage), out_(out) {}
+               const std::vector<std::string>& codon_usage, std::vector<std::string> names,
+               WriterLines& out)
+      : ad_(ad),
+        read_(read),
+        stamp_(stamp),
+        codon_usage_(codon_usage),
+        names_(std::move(names)),
+        out_(out) {}
 
   void ReadBlock(NexusBlockKind kind) {
     const bool v1 = ad_.Format.NexusVersion == 1;
@@ -58,18 +81,19 @@ class UpdateWriter {
       case NexusBlockKind::kTaxa:
       case NexusBlockKind::kCharacters:
         if (v1) {
-          if (!data_written_) WriteNexusDataBlock(ad_, out_, read_.characters_kept);
+          if (!data_written_) WriteNexusDataBlock(ad_, out_, read_.characters_kept, names_);
           data_written_ = true;
         } else if (kind == NexusBlockKind::kTaxa) {
-          if (!taxa_written_) WriteNexusTaxaBlock(ad_, out_, read_.taxa_kept);
+          if (!taxa_written_) WriteNexusTaxaBlock(ad_, out_, read_.taxa_kept, names_);
           taxa_written_ = true;
         } else {
           if (!taxa_written_ && !read_.taxa) {
-            WriteNexusTaxaBlock(ad_, out_);
+            WriteNexusTaxaBlock(ad_, out_, {}, names_);
             out_.Line("");
             taxa_written_ = true;
           }
-          if (!data_written_) WriteNexusCharactersBlock(ad_, out_, read_.characters_kept);
+          if (!data_written_)
+            WriteNexusCharactersBlock(ad_, out_, read_.characters_kept, names_);
           data_written_ = true;
         }
         break;
@@ -101,7 +125,7 @@ class UpdateWriter {
   void MissingBlocks() {
     if (!data_written_) {
       NewLine();
-      WriteNexusMatrixBlocks(ad_, out_);
+      WriteNexusMatrixBlocks(ad_, out_, {}, {}, names_);
     }
     if (!sets_written_ && HasNexusSets(ad_)) {
       NewLine();
@@ -130,6 +154,7 @@ class UpdateWriter {
   const ReadBlocks& read_;
   const WriterStamp& stamp_;
   const std::vector<std::string>& codon_usage_;
+  const std::vector<std::string> names_;  // as the file wrote them
   WriterLines& out_;
   bool taxa_written_ = false, data_written_ = false, sets_written_ = false, codons_written_ = false,
        own_written_ = false, codon_usage_written_ = false;
@@ -150,7 +175,7 @@ void WriteNexusUpdate(const ActiveData& ad, const NexusDocument& document, const
     return;
   }
   const ReadBlocks read = Survey(document);
-  UpdateWriter writer(ad, read, stamp, codon_usage, out);
+  UpdateWriter writer(ad, read, stamp, codon_usage, NamesAsWritten(ad, document), out);
   out.Kept("#NEXUS");
   for (const NexusBlock& block : document.Blocks) {
     out.Kept(block.Leading);
@@ -167,30 +192,46 @@ void WriteNexusUpdate(const ActiveData& ad, const NexusDocument& document, const
   out.Finish();
 }
 
+std::optional<std::string> NoFileToUpdate(const std::string& path) {
+  if (path == kStandardInputPath)
+    return "The data were read from standard input: there is no file to update.";
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error))
+    return "The data were read from " + path +
+           ", which is not a regular file: there is no file to update.";
+  return std::nullopt;
+}
+
 bool UpdateNexusDataFile(const ActiveData& ad, const NexusDocument& document,
                          const std::string& path, Platform& platform, const std::string& version) {
   if (ad.FileKind != kNexus) return false;
-  if (platform.MessageBox(path + " ?", MsgIcon::kQuestion, MsgButtons::kOkCancel,
-                          kUpdateQuestionTitle) != MsgAnswer::kOk)
+  // Standard input or a pipe was read once; writing "back" would go to some other place.
+  if (const std::optional<std::string> refusal = NoFileToUpdate(path)) {
+    platform.MessageBox(*refusal, MsgIcon::kWarning);
+    return false;
+  }
+  // Both questions change the user's own file: the first rewrites it, the second drops the
+  // excluded sequences from it.
+  if (platform.AskBeforeChange(path + " ?", MsgIcon::kQuestion, kUpdateQuestionTitle) !=
+      MsgAnswer::kOk)
     return false;
   if (ad.NumSeqs != ad.TotalSeqs &&
-      platform.MessageBox(UpdateFewerSequencesText(ad.NumSeqs, ad.FileName), MsgIcon::kInformation,
-                          MsgButtons::kOkCancel) != MsgAnswer::kOk)
+      platform.AskBeforeChange(UpdateFewerSequencesText(ad.NumSeqs, ad.FileName),
+                               MsgIcon::kInformation) != MsgAnswer::kOk)
     return false;
   platform.SetStatusText(kSavingStatus);
   platform.SetProgress(0);
   const std::vector<std::string> codon_usage = CodonUsageForNexus(ad, platform);
   const WriterStamp stamp = MakeWriterStamp(version, ad.FileName, platform);
+  // The new file is made beside the old one and takes its place only when it is whole: a
+  // failure, a full disk or a killed program leaves the user's file as it was.
   bool written = false;
-  {
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    if (file) {
-      WriterLines out(file, LineDelimiterText(ad.Format.LineDelimiter),
-                      [&platform](int percent) { platform.SetProgress(percent); });
-      WriteNexusUpdate(ad, document, stamp, codon_usage, out);
-      file.flush();
-      written = out.Good();
-    }
+  WholeFileWriter file(path);
+  if (file.Open()) {
+    WriterLines out(file.Stream(), LineDelimiterText(ad.Format.LineDelimiter),
+                    [&platform](int percent) { platform.SetProgress(percent); });
+    WriteNexusUpdate(ad, document, stamp, codon_usage, out);
+    written = out.Good() && file.Commit();
   }
   platform.SetProgress(-1);
   if (!written) platform.MessageBox(kErrorInSaving, MsgIcon::kCritical);

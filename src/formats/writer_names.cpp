@@ -1,8 +1,12 @@
 #include "formats/writer_names.h"
 
+#include "core/utf8_text.h"
+
 namespace ovelt {
 namespace {
 
+// The punctuation both formats give a meaning, and the two quote bytes of Windows code pages,
+// which can only stand alone: inside a UTF-8 letter the same bytes are part of the letter.
 bool DroppedInNexusNames(unsigned char c) {
   return (c >= 33 && c <= 47) || c == 96 || c == 146 || c == 180;
 }
@@ -15,15 +19,21 @@ std::string TrimmedName(const std::string& field) {
 }
 
 std::string CleanName(const std::string& field, NameMode mode) {
+  const std::string trimmed = TrimmedName(field);
   std::string name;
-  for (char c : TrimmedName(field)) {
-    if (mode == NameMode::kPlain) {
+  for (size_t at = 0; at < trimmed.size();) {
+    const size_t length = Utf8CharLength(trimmed, at);
+    const char c = trimmed[at];
+    if (length > 1) {
+      name.append(trimmed, at, length);  // a letter of several bytes stays whole
+    } else if (mode == NameMode::kPlain) {
       name += c == ' ' ? '_' : c;
     } else if (c == ' ' || c == '\t') {
       name += '_';
     } else if (!DroppedInNexusNames(static_cast<unsigned char>(c))) {
       name += c;
     }
+    at += length;
   }
   if (mode == NameMode::kNexusMega && name.empty()) name = kEmptyNameStandIn;
   return name;
@@ -36,9 +46,7 @@ std::string NexusName(const std::string& field) {
 }
 
 std::string PhylipNameField(const std::string& field) {
-  std::string name = CleanName(field, NameMode::kPlain).substr(0, 10);
-  name.resize(10, ' ');
-  return name;
+  return FitToCharacters(CleanName(field, NameMode::kPlain), 10);
 }
 
 }  // namespace ovelt

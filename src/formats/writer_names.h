@@ -2,10 +2,11 @@
 // Sequence names as the writers put them in a file. A name is the 20-character field of the
 // included layer without its trailing blanks, then cleaned for the format:
 //  - NEXUS and MEGA: blank and tab become "_"; the punctuation of codes 33 to 47 ("!" to "/"),
-//    "`" (96) and the two quote bytes 146 and 180 are dropped, since both formats give them a
-//    meaning; a name left empty is "Seq_XXX".
+//    "`" (96) and the two quote bytes 146 and 180 standing alone are dropped, since both formats
+//    give them a meaning; a name left empty is "Seq_XXX".
 //  - FASTA, NBRF and PHYLIP: blanks become "_"; PHYLIP then keeps ten characters, padded with
 //    blanks.
+// A letter written in UTF-8 is one character: it is kept whole, and counted once.
 
 #include <string>
 

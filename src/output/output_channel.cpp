@@ -238,13 +238,16 @@ bool OutputChannel::SaveCurrentOutput(const std::string& path) {
 
 bool OutputChannel::SendAllOutput(const std::string& path) {
   if (SessionOpen != 0) CloseSessionFile();
+  session_failed_ = false;
   if (!session_.Open(path)) {
+    session_failed_ = true;
     ShowMessage(SessionOpenFailure(path), MsgIcon::kCritical);
     return false;
   }
   ShowMessage("All Output (except graphs) will be saved on file: " + path, MsgIcon::kInformation);
   if (!session_.Append(CommonOpening(platform_.Now()))) {
-    session_.Close();
+    session_.Abandon();
+    session_failed_ = true;
     ShowMessage(SessionOpenFailure(path), MsgIcon::kCritical);
     return false;
   }
@@ -258,24 +261,31 @@ bool OutputChannel::SendAllOutput(const std::string& path) {
   return true;
 }
 
-void OutputChannel::CloseSessionFile() {
-  if (SessionOpen == 0) return;
-  const bool written = session_.Append(SessionEndLine(platform_.Now()));
+bool OutputChannel::CloseSessionFile() {
+  if (SessionOpen == 0) return !session_failed_;
+  // The file takes its place under the chosen name only now, whole.
+  const bool written = session_.Append(SessionEndLine(platform_.Now())) && session_.Close();
   const std::string name = SessionFileName;
   ResetSessionCommands();
-  if (!written) ShowMessage(kCantSave + name, MsgIcon::kCritical);
+  if (!written) {
+    session_failed_ = true;
+    ShowMessage(kCantSave + name, MsgIcon::kCritical);
+  }
+  return !session_failed_;
 }
 
 void OutputChannel::AppendResultToSession() {
   if (session_.Append(ResultText() + SessionSeparator())) return;
-  // The session cannot go on: say so once and stop sending results to it.
+  // The session cannot go on: say so once and stop sending results to it. Its file is not put
+  // in place cut short; a file of that name stays as it was.
   const std::string name = SessionFileName;
   ResetSessionCommands();
+  session_failed_ = true;
   ShowMessage(kCantSave + name, MsgIcon::kCritical);
 }
 
 void OutputChannel::ResetSessionCommands() {
-  session_.Close();
+  session_.Abandon();
   SessionOpen = 0;
   SessionFileNo = 0;
   SessionFileName.clear();

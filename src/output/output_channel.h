@@ -149,8 +149,10 @@ class OutputChannel {
   bool SaveCurrentOutput(const std::string& path);
   // "Send All Output to File": opens the session file; false (with its message) on failure.
   bool SendAllOutput(const std::string& path);
-  // Writes the end line and closes the session file; nothing when none is open.
-  void CloseSessionFile();
+  // Writes the end line, closes the session file and puts it in place whole. False when the
+  // session asked for last could not be written whole (now, or at an earlier result, with its
+  // message shown then); true with no session at all.
+  bool CloseSessionFile();
 
   // The bytes a saved output file gets now.
   [[nodiscard]] std::string SavedFileText();
@@ -171,6 +173,7 @@ class OutputChannel {
 
   Platform& platform_;
   SessionFile session_;
+  bool session_failed_ = false;
   OutputWindows windows_;
   OutputCommands commands_;
   std::optional<std::string> grid_text_head_;

@@ -3,32 +3,26 @@
 namespace ovelt {
 
 bool SessionFile::Open(const std::string& path) {
-  Close();
-  stream_.clear();
-  stream_.open(path, std::ios::binary | std::ios::out | std::ios::trunc);
-  return stream_.is_open() && stream_.good();
+  Abandon();
+  auto file = std::make_unique<WholeFileWriter>(path);
+  if (!file->Open()) return false;
+  file_ = std::move(file);
+  return true;
 }
 
 bool SessionFile::Append(const std::string& text) {
-  if (!stream_.is_open()) return false;
-  stream_.write(text.data(), static_cast<std::streamsize>(text.size()));
-  stream_.flush();
-  return stream_.good();
+  if (!file_) return false;
+  file_->Stream().write(text.data(), static_cast<std::streamsize>(text.size()));
+  return file_->Flush();
 }
 
-void SessionFile::Close() {
-  if (stream_.is_open()) stream_.close();
-  stream_.clear();
+bool SessionFile::Close() {
+  if (!file_) return true;
+  const bool written = file_->Commit();
+  file_.reset();
+  return written;
 }
 
-bool WriteWholeFile(const std::string& path, const std::string& text) {
-  std::ofstream out(path, std::ios::binary | std::ios::out | std::ios::trunc);
-  if (!out.is_open()) return false;
-  out.write(text.data(), static_cast<std::streamsize>(text.size()));
-  out.flush();
-  const bool written = out.good();
-  out.close();
-  return written && !out.fail();
-}
+void SessionFile::Abandon() { file_.reset(); }
 
 }  // namespace ovelt

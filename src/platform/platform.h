@@ -35,6 +35,19 @@ class Platform {
                                const std::string& title = "Ovelt",
                                bool default_second = false) = 0;
 
+  // A question whose OK changes or loses the user's data: a file rewritten, sequences left out
+  // of it, a doubtful setting taken. The box is the OK/Cancel box above; a face that cannot ask
+  // (the command line) answers Cancel unless the user agreed beforehand.
+  virtual MsgAnswer AskBeforeChange(const std::string& text, MsgIcon icon,
+                                    const std::string& title = "Ovelt") {
+    return MessageBox(text, icon, MsgButtons::kOkCancel, title);
+  }
+
+  // Why the refusal just shown was made, for a face whose user does not see the dialog's
+  // fields: the command line prints it on the line under the box. A window shows the fields,
+  // and the box keeps its own words.
+  virtual void ExplainRefusal(const std::string& /*reason*/) {}
+
   // File dialogs; nullopt when cancelled.
   virtual std::optional<std::string> OpenFileName(const std::string& title,
                                                   const std::string& filter) = 0;

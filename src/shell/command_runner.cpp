@@ -20,6 +20,7 @@ void Stop(OutputChannel& channel, Platform& ui, const CommandFailure& failure) {
     case FailureKind::kRefused:
       channel.SetBusy(false);
       ui.MessageBox(failure.what(), MsgIcon::kWarning);
+      ui.ExplainRefusal(failure.Reason());
       channel.ReopenDialog = 1;
       break;
     case FailureKind::kFailed:

@@ -1,10 +1,11 @@
 #include "shell/recent_files.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
+
+#include "files/whole_file.h"
 
 namespace ovelt {
 
@@ -109,19 +110,13 @@ void RecentFiles::fActualizaCFA(const std::string& path, int index) {
 }
 
 bool RecentFiles::WriteTo(const std::string& file_path) const {
-  // An old file is deleted first, then one line per non-empty entry.
-  std::error_code ec;
-  std::filesystem::remove(file_path, ec);
-  std::FILE* out = std::fopen(file_path.c_str(), "wb");
-  if (out == nullptr) return false;
-  bool ok = true;
+  // One line per non-empty entry; the old list is replaced only by a whole new one.
+  std::string text;
   for (int k = 1; k <= 4; ++k) {
     const std::string& entry = entries_[static_cast<size_t>(k)];
-    if (entry.empty()) continue;
-    ok = ok && std::fputs(entry.c_str(), out) >= 0 && std::fputs("\r\n", out) >= 0;
+    if (!entry.empty()) text += entry + "\r\n";
   }
-  ok = (std::fclose(out) == 0) && ok;
-  return ok;
+  return WriteWholeFile(file_path, text);
 }
 
 }  // namespace ovelt

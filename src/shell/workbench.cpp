@@ -24,6 +24,13 @@ constexpr const char* kOutOfMemoryAtLoad =
     "        Out of memory !!!\nTry to reduce the number of programs running, or try to "
     "increase the RAM or virtual memory. Ovelt will end.";
 
+// Standard input, a pipe or a process substitution can be read once only: such a source has no
+// place in the list of recent files.
+bool CanOpenAgain(const std::string& path) {
+  std::error_code ec;
+  return path != kStandardInputPath && std::filesystem::is_regular_file(path, ec);
+}
+
 }  // namespace
 
 Workbench::Workbench(Platform& platform)
@@ -91,7 +98,7 @@ bool Workbench::fbLeer1(int index) {
   const std::optional<std::string> path = fbLeerTodo(index);
   if (!path) return false;
   if (!Load(*path)) return false;
-  if (TitleCode(data_.Analysis) != TitleCode(CommandId::kConcatenate)) {
+  if (TitleCode(data_.Analysis) != TitleCode(CommandId::kConcatenate) && CanOpenAgain(*path)) {
     recent_.fActualizaCFA(*path, index);
     RefreshRecentMenu();
   }
@@ -100,7 +107,7 @@ bool Workbench::fbLeer1(int index) {
 
 bool Workbench::OpenPath(const std::string& path) {
   if (!Load(path)) return false;
-  if (TitleCode(data_.Analysis) != TitleCode(CommandId::kConcatenate)) {
+  if (TitleCode(data_.Analysis) != TitleCode(CommandId::kConcatenate) && CanOpenAgain(path)) {
     recent_.fActualizaCFA(path, 0);
     RefreshRecentMenu();
   }
@@ -154,8 +161,9 @@ void Workbench::CommitLoadedFile(LoadedFile&& file, const std::string& path) {
   next.SequenceSets.assign(1, PoblacionSecuencias{});
   std::error_code ec;
   const std::filesystem::path full = std::filesystem::absolute(path, ec);
-  next.FilePath = ec ? path : full.lexically_normal().string();
-  next.FileName = LastPathComponent(path);
+  const bool from_stdin = path == kStandardInputPath;
+  next.FilePath = ec || from_stdin ? path : full.lexically_normal().string();
+  next.FileName = from_stdin ? path : LastPathComponent(path);
   next.FileKind = file.FileKind;
   next.NumSites = file.NumSites;
   next.NumSeqs = file.NumSeqs();
@@ -202,6 +210,9 @@ void Workbench::CommitLoadedFile(LoadedFile&& file, const std::string& path) {
   data_ = std::move(next);
   nexus_document_.reset();
   if (file.Nexus) nexus_document_ = std::move(file.Nexus->Document);
+  std::error_code absolute_error;
+  const std::filesystem::path read_from = std::filesystem::absolute(path, absolute_error);
+  read_path_ = absolute_error || path == kStandardInputPath ? path : read_from.string();
   menus_.ActivarMenu(11, data_.FileKind);
   if (data_.FileKind == kNexus)
     menus_.SetText("MenuUpdateNEXUS_Click", "Update NEXUS Data File:  " + data_.FileName);
@@ -228,6 +239,7 @@ bool Workbench::CloseFile(bool ask) {
   output_.ResetOutputs();
   ResetLayers();
   nexus_document_.reset();
+  read_path_.clear();
   menus_.ActivarMenu(12, 0);
   menus_.SetText("MenuUpdateNEXUS_Click", "Update NEXUS Data File");
   RefreshTitle();

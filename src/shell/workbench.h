@@ -43,6 +43,9 @@ class Workbench {
   [[nodiscard]] bool FileOpen() const { return data_.OpenFiles > 0; }
   // The blocks of the open NEXUS file as they stood, for "Update NEXUS Data File".
   [[nodiscard]] const std::optional<NexusDocument>& NexusBlocks() const { return nexus_document_; }
+  // The path the open file was read from, exactly as it was given (made absolute, nothing
+  // trimmed or resolved): "Update NEXUS Data File" writes there and nowhere else.
+  [[nodiscard]] const std::string& ReadPath() const { return read_path_; }
 
   // fbLeerTodo: index 0 asks the platform's open dialog, index k takes recent entry k.
   [[nodiscard]] std::optional<std::string> fbLeerTodo(int index);
@@ -86,6 +89,7 @@ class Workbench {
   MenuModel menus_;
   RecentFiles recent_;
   std::optional<NexusDocument> nexus_document_;
+  std::string read_path_;
 };
 
 }  // namespace ovelt

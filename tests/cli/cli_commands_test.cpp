@@ -92,7 +92,8 @@ TEST(Cli, BadSettingsAreRefusedWithTheirMessage) {
   EXPECT_NE(name.err.find("Invalid sequence set name"), std::string::npos) << name.err;
   const auto range = RunOvelt({"info", kExample, "--coding", "5-901"}, home.Path().string());
   EXPECT_EQ(range.status, 1);
-  EXPECT_EQ(range.err, "Ovelt:\n Invalid Selection \n");
+  EXPECT_EQ(range.err, "Ovelt:\n Invalid Selection \n"
+                       "The region 5-901 is not within the sites, which run from 1 to 900.\n");
   const auto none = RunOvelt({"info", kExample, "--include", "13"}, home.Path().string());
   EXPECT_EQ(none.status, 1);
   const auto all_out = RunOvelt({"info", kExample, "--exclude", "1-12"}, home.Path().string());
@@ -101,8 +102,14 @@ TEST(Cli, BadSettingsAreRefusedWithTheirMessage) {
             std::string::npos);
   const auto diploid = RunOvelt({"info", kExample, "--location", "Mitochondrial"},
                                 home.Path().string());
-  EXPECT_EQ(diploid.status, 0);  // the notice is answered OK
+  // A doubtful setting is taken only with consent.
+  EXPECT_EQ(diploid.status, 1);
   EXPECT_NE(diploid.err.find("Are you sure that the genome is Diploid ?"), std::string::npos);
+  EXPECT_NE(diploid.err.find("(answered Cancel; add --yes to answer OK)"), std::string::npos);
+  const auto agreed = RunOvelt({"info", kExample, "--location", "Mitochondrial", "--yes"},
+                               home.Path().string());
+  EXPECT_EQ(agreed.status, 0) << agreed.err;
+  EXPECT_NE(agreed.err.find("(answered OK)"), std::string::npos);
 }
 
 TEST(Cli, OutSessionAndGridFiles) {
@@ -154,7 +161,8 @@ TEST(Cli, SitesReportsTheHeadAndTheClasses) {
   EXPECT_NE(s.out.find(" Selected region: 2-5   Number of sites: 4\n"), std::string::npos);
   const auto bad = RunOvelt({"sites", data, "--from", "4", "--to", "2"}, home.Path().string());
   EXPECT_EQ(bad.status, 1);
-  EXPECT_EQ(bad.err, "Ovelt:\n Invalid Selection \n");
+  EXPECT_EQ(bad.err, "Ovelt:\n Invalid Selection \n"
+                     "The region 4-2 ends before it begins (the sites run from 1 to 5).\n");
 }
 
 TEST(Cli, CheckRunsTheRefusalsOfACommand) {

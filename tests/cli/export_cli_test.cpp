@@ -112,7 +112,7 @@ TEST_F(ExportCli, UpdateNexusAddsTheSettingsAndKeepsATreesBlockInPlace) {
                  " format datatype=dna missing=? gap=-;\n matrix\n one ACGTACGT\n two ACGTACGA\n"
                  " three TCG-AC??\n ;\nend;\n\n" +
                      trees + "\n");
-  Run({"update-nexus", in, "--set-def", "Pair=1-2", "--coding", "1-6"});
+  Run({"update-nexus", in, "--set-def", "Pair=1-2", "--coding", "1-6", "--yes"});
   const std::string text = ReadBytes(in);
   std::string trees_crlf = std::regex_replace(trees, std::regex("\n"), "\r\n");
   const size_t at = text.find("\r\n\r\n" + trees_crlf + "\r\n");

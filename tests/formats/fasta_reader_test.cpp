@@ -148,12 +148,14 @@ TEST(FastaReader, LineEndsOfAllKindsGiveEqualMatrices) {
   }
 }
 
-TEST(FastaReader, MoreThan32767SequencesAreABadFile) {
+TEST(FastaReader, MoreThan32767SequencesSayTheLimit) {
   std::string text;
   for (int s = 0; s < 32767; ++s) text += ">s\nA\n";
   EXPECT_EQ(Fasta(text).NumSeqs(), 32767);
   text += ">s\nA\n";
-  EXPECT_EQ(ErrorOf(text, kFasta), "Input data file: t.txt\n\nBad or unknown file format");
+  EXPECT_EQ(ErrorOf(text, kFasta),
+            kHead + "The file holds more than 32767 sequences. The maximum number of sequences is "
+                    "32767.");
 }
 
 TEST(FastaReader, LongSequenceOnOneLine) {

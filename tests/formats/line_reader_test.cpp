@@ -1,6 +1,7 @@
 // Splitting into lines: LF, CR + LF and CR line ends, from memory and from a file read in chunks.
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <filesystem>
@@ -10,6 +11,7 @@
 #include <vector>
 
 #include "formats/line_reader.h"
+#include "support/pipe_source.h"
 
 namespace ovelt {
 namespace {
@@ -55,6 +57,7 @@ class TempFile {
     std::ofstream(path_, std::ios::binary) << bytes;
   }
   ~TempFile() { std::filesystem::remove(path_); }
+  [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
   std::vector<std::string> Lines() const {
     std::FILE* file = std::fopen(path_.c_str(), "rb");
     LineReader in(file, static_cast<int64_t>(std::filesystem::file_size(path_)));
@@ -109,14 +112,54 @@ TEST(LineReader, FileInChunksAgreesWithAPlainSplit) {
   EXPECT_EQ(MemoryLines(bytes), expected);
 }
 
-TEST(LineReader, RewindStartsAgain) {
+TEST(LineReader, RewindComesBackToTheMark) {
   const std::string bytes = "one\rtwo\r\nthree";
   LineReader in(bytes);
   std::string_view line;
   ASSERT_TRUE(in.Next(line));
+  in.Mark();
+  ASSERT_TRUE(in.Next(line));
   ASSERT_TRUE(in.Next(line));
   in.Rewind();
-  EXPECT_EQ(LinesOf(in), (Lines{"one", "two", "three"}));
+  EXPECT_EQ(LinesOf(in), (Lines{"two", "three"}));
+  in.Rewind();  // the mark stays until Unmark
+  EXPECT_EQ(LinesOf(in), (Lines{"two", "three"}));
+}
+
+// A pipe cannot seek: the bytes read after the mark are kept for the rewind, across chunks.
+TEST(LineReader, APipeIsReadOnceAndRewoundFromWhatWasKept) {
+  std::string bytes = "header\r";
+  for (int i = 0; i < 250000; ++i) bytes += "line " + std::to_string(i) + (i % 2 ? "\r\n" : "\n");
+  ASSERT_GT(bytes.size(), size_t{2} << 20);  // more than one chunk of the reader
+  testing::PipeSource source(bytes);
+  std::FILE* pipe = ::fdopen(::dup(source.Fd()), "rb");
+  LineReader in(pipe, 0);
+  EXPECT_EQ(in.Peek(3), "hea");
+  std::string_view line;
+  ASSERT_TRUE(in.Next(line));
+  EXPECT_EQ(line, "header");
+  in.Mark();
+  const Lines rest = LinesOf(in);
+  in.Rewind();
+  in.Unmark();
+  EXPECT_EQ(LinesOf(in), rest);
+  Lines expected = PlainSplit(bytes);
+  expected.erase(expected.begin());
+  EXPECT_EQ(rest, expected);
+  std::fclose(pipe);
+}
+
+TEST(LineReader, PeekShowsABoundedStartOfTheNextLineWithoutTakingIt) {
+  TempFile endless(std::string(3 << 20, '\0'));  // no line end at all
+  std::FILE* file = std::fopen(endless.Path().c_str(), "rb");
+  LineReader in(file, 3 << 20);
+  EXPECT_EQ(in.Peek(4096).size(), 4096u);
+  std::fclose(file);
+
+  LineReader memory(std::string_view(">one\r\nACGT\n"));
+  EXPECT_EQ(memory.Peek(100), ">one");
+  EXPECT_EQ(memory.Peek(2), ">o");
+  EXPECT_EQ(LinesOf(memory), (Lines{">one", "ACGT"}));
 }
 
 TEST(LineReader, GaugeRisesToOneHundred) {
@@ -124,6 +167,7 @@ TEST(LineReader, GaugeRisesToOneHundred) {
   for (int i = 0; i < 1000; ++i) bytes += "ACGTACGTAC\n";
   std::vector<int> seen;
   LineReader in(bytes, [&](int percent) { seen.push_back(percent); });
+  in.Mark();
   (void)LinesOf(in);
   in.Rewind();
   (void)LinesOf(in);

@@ -34,6 +34,20 @@ TEST(MegaSequential, ReadsLikeFastaWithHash) {
   EXPECT_TRUE(f.HasMegaSymbols);
 }
 
+// A "#" alone opens a first sequence whose name is empty; it is not taken for a header line.
+TEST(MegaSequential, AFirstSequenceWithAnEmptyNameIsKept) {
+  const LoadedFile f = Mega("#MEGA\n!Title t;\n#\nACGT\n#b\nAC.A\n", kSequential);
+  ASSERT_EQ(f.NumSeqs(), 2);
+  EXPECT_EQ(Row(f, 1), "ACGT");
+  EXPECT_EQ(Row(f, 2), "ACGA");
+  EXPECT_EQ(f.Names[1], std::string(20, ' '));
+  const LoadedFile interleaved =
+      Mega("#MEGA\n# AC\n#b AG\n# GT\n#b GA\n", kInterleaved);
+  ASSERT_EQ(interleaved.NumSeqs(), 2);
+  EXPECT_EQ(Row(interleaved, 1), "ACGT");
+  EXPECT_EQ(Row(interleaved, 2), "AGGA");
+}
+
 // Cells that start on the "#name" line are kept, behind the name and a blank.
 TEST(MegaSequential, CellsOnTheNameLineAreKept) {
   const LoadedFile f = Mega("#mega\n!Title t;\n#a AAC\n    GGT\n#b AAG GGT\n", kSequential);
@@ -151,12 +165,14 @@ TEST(MegaInterleaved, CellsOutsideARowAreReport31) {
             kHead + "Illegal sequence name (interleaved format).");
 }
 
-TEST(MegaInterleaved, MoreThan32767SequencesAreABadFile) {
+TEST(MegaInterleaved, MoreThan32767SequencesSayTheLimit) {
   std::string text = "#mega\n";
   for (int s = 1; s <= 32767; ++s) text += "#s" + std::to_string(s) + " A\n";
   EXPECT_EQ(Mega(text, kInterleaved).NumSeqs(), 32767);
   text += "#s32768 A\n";
-  EXPECT_EQ(ErrorOf(text, kMega, kInterleaved), "Input data file: t.txt\n\nBad or unknown file format");
+  EXPECT_EQ(ErrorOf(text, kMega, kInterleaved),
+            kHead + "The file holds more than 32767 sequences. The maximum number of sequences is "
+                    "32767.");
 }
 
 TEST(MegaInterleaved, DotInFirstSequenceIsCodeZero) {

@@ -29,6 +29,15 @@ TEST(WriterNames, NexusAndMegaDropPunctuationAndTurnBlanksIntoUnderscores) {
   EXPECT_EQ(CleanName("0:;<=>?@[]_~", NameMode::kNexusMega), "0:;<=>?@[]_~");
 }
 
+// The quote bytes 146 and 180 are dropped where they stand alone (Windows code pages); inside a
+// UTF-8 letter they belong to the letter, which stays whole: "Ò" is C3 92, "ô" is C3 B4.
+TEST(WriterNames, LettersOfSeveralBytesStayWhole) {
+  EXPECT_EQ(CleanName("\xC3\x92scar_\xC3\xB4", NameMode::kNexusMega), "\xC3\x92scar_\xC3\xB4");
+  EXPECT_EQ(CleanName("O\x92" "Brien\xB4", NameMode::kNexusMega), "OBrien");
+  EXPECT_EQ(CleanName("\xE2\x80\x99s", NameMode::kNexusMega), "\xE2\x80\x99s");
+  EXPECT_EQ(NexusName(FixedName("Bj\xC3\xB6rk (2)")), "Bj\xC3\xB6rk_2");
+}
+
 TEST(WriterNames, ANameOfBlanksBecomesTheStandInInNexusAndMega) {
   EXPECT_EQ(CleanName(FixedName("     "), NameMode::kNexusMega), "Seq_XXX");
   EXPECT_EQ(CleanName(FixedName("()-"), NameMode::kNexusMega), "Seq_XXX");
@@ -42,6 +51,9 @@ TEST(WriterNames, PhylipKeepsTenCharactersPaddedWithBlanks) {
   EXPECT_EQ(PhylipNameField(FixedName("ab")), "ab        ");
   EXPECT_EQ(PhylipNameField(FixedName("A-2301")), "A-2301    ");
   EXPECT_EQ(PhylipNameField(FixedName("")), "          ");
+  // Ten characters, never a letter cut in two.
+  EXPECT_EQ(PhylipNameField(FixedName("M\xC3\xBCller_A01x")), "M\xC3\xBCller_A01");
+  EXPECT_EQ(PhylipNameField(FixedName("\xC3\x98st")), "\xC3\x98st       ");
 }
 
 TEST(WriterStampDate, MonthAbbreviationDayWithoutZeroAndYear) {

@@ -49,6 +49,26 @@ TEST(NexusReader, DefaultsWithoutFormatKeys) {
   EXPECT_EQ(f.Nexus->CodonPosition, std::vector<int16_t>(5, 0));
 }
 
+// A declared size the file cannot hold is refused before anything is sized by it: NTAX rows of
+// NCHAR cells need NTAX x NCHAR bytes of matrix. Sized first, 2^31 - 1 characters (and their
+// labels) would ask for tens of gigabytes and end as "Out of memory".
+TEST(NexusReader, ADeclaredSizeTheFileCannotHoldIsRefusedAtOnce) {
+  EXPECT_EQ(NexusFaultOf("#NEXUS\nbegin data;\n dimensions ntax=2 nchar=300000000;\n matrix\n"
+                         " a ACGT\n b ACGT\n ;\nend;\n"),
+            "Missing character in sequence: 1");
+  EXPECT_EQ(NexusFaultOf("#NEXUS\nbegin data;\n dimensions ntax=2 nchar=2147483647;\n"
+                         " charlabels x y;\n matrix\n a ACGT\n b ACGT\n ;\nend;\n"),
+            "Missing character in sequence: 1");
+  // The rows that fit are counted: the third of three cannot be complete.
+  EXPECT_EQ(NexusFaultOf("#NEXUS\nbegin data;\n dimensions ntax=3 nchar=12;\n matrix\n"
+                         " a ACGTACGTACGT\n b ACGTACGTACGT\n ;\nend;\n"),
+            "Missing character in sequence: 3");
+  // Without a matrix nothing is sized either.
+  EXPECT_EQ(NexusFaultOf("#NEXUS\nbegin data;\n dimensions ntax=2 nchar=2147483647;\n"
+                         " charlabels x y;\nend;\n"),
+            "Error Reading the DATA block");
+}
+
 TEST(NexusReader, RnaAndNucleotideDataTypes) {
   const LoadedFile rna = ReadNexusString(
       "#NEXUS\nBEGIN DATA;\nDIMENSIONS NTAX=1 NCHAR=3;\nFORMAT DATATYPE=RNA;\nMATRIX\na ACU\n;\nEND;\n");
@@ -182,8 +202,15 @@ TEST(NexusReader, EveryFaultHasItsSentence) {
   // 2 and 3: the dimensions.
   EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NCHAR=2;\n" + matrix),
             "Error Reading the NTAX command");
-  EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NTAX=40000 NCHAR=2;\n" + matrix),
+  EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NTAX=0 NCHAR=2;\n" + matrix),
             "Error Reading the NTAX command");
+  // More than the program holds says the limit.
+  EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NTAX=40000 NCHAR=2;\n" + matrix),
+            "The file declares 40000 sequences. The maximum number of sequences is 32767.");
+  EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NTAX=2 NCHAR=0099999999999999999999;\n" +
+                         matrix),
+            "The file declares 99999999999999999999 sites. The maximum number of sites is "
+            "2147483647.");
   EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NTAX=2 NCHAR=two;\n" + matrix),
             "Error Reading the NCHAR command");
   EXPECT_EQ(NexusFaultOf("#NEXUS\nBEGIN DATA;\nDIMENSIONS NTAX=2;\n" + matrix),

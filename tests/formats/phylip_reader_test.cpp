@@ -52,9 +52,19 @@ TEST(PhylipHeader, BadNumbers) {
   EXPECT_EQ(ErrorOf("5 855 3\n", kPhylip), kPhylipHead + "Invalid number of sites");
   EXPECT_EQ(ErrorOf("5x 855\n", kPhylip), kPhylipHead + "Invalid number of sequences");
   EXPECT_EQ(ErrorOf("0 855\n", kPhylip), kPhylipHead + "Invalid number of sequences");
-  EXPECT_EQ(ErrorOf("2 99999999999\n", kPhylip), kPhylipHead + "Invalid number of sites");
-  // More sequences than a 16-bit count holds.
-  EXPECT_EQ(ErrorOf("32768 5\n", kPhylip), "Input data file: t.txt\n\nBad or unknown file format");
+  // More than the program holds says the limit.
+  EXPECT_EQ(ErrorOf("2 99999999999\n", kPhylip),
+            kPhylipHead + "The file declares 99999999999 sites. The maximum number of sites is "
+                          "2147483647.");
+  EXPECT_EQ(ErrorOf("32768 5\n", kPhylip),
+            kPhylipHead + "The file declares 32768 sequences. The maximum number of sequences is "
+                          "32767.");
+  EXPECT_EQ(ErrorOf("1000000000 10\n", kPhylip),
+            kPhylipHead + "The file declares 1000000000 sequences. The maximum number of sequences "
+                          "is 32767.");
+  // A number of sites the program holds but the file does not is no limit of the program.
+  EXPECT_EQ(ErrorOf("5 1000000000\na         ACGT\n", kPhylip),
+            kPhylipHead + "Invalid number of sites");
 }
 
 TEST(PhylipReader, NameOfTenCharactersRunsStraightIntoTheCells) {
@@ -63,6 +73,16 @@ TEST(PhylipReader, NameOfTenCharactersRunsStraightIntoTheCells) {
   EXPECT_EQ(f.Names[2], "short               ");
   EXPECT_EQ(Row(f, 1), "ACGTA");
   EXPECT_EQ(Row(f, 2), "AC-??");
+}
+
+// Ten characters, as other programs write them: a letter of two bytes counts once, and the
+// cells start after the tenth character, not after the tenth byte.
+TEST(PhylipReader, ANameOfTenUtf8CharactersRunsIntoTheCells) {
+  const LoadedFile f = Phylip("2 4\nM\xC3\xBCller_A01ACGT\n\xC3\x98st       AGGT\n");
+  EXPECT_EQ(f.Names[1], "M\xC3\xBCller_A01" + std::string(10, ' '));
+  EXPECT_EQ(f.Names[2], "\xC3\x98st" + std::string(17, ' '));
+  EXPECT_EQ(Row(f, 1), "ACGT");
+  EXPECT_EQ(Row(f, 2), "AGGT");
 }
 
 TEST(PhylipReader, NameMayHoldBlanks) {

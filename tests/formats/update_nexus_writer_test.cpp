@@ -9,6 +9,7 @@
 #include "formats/update_nexus.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
+#include "support/write_faults.h"
 #include "writer_test_support.h"
 
 namespace ovelt {
@@ -208,10 +209,31 @@ TEST(UpdateNexusDataFile, OnlyForANexusFileAndAFailedWriteSaysSo) {
   EXPECT_FALSE(UpdateNexusDataFile(ad, Recorded(), dir.File("x.nex"), platform, "v"));
   EXPECT_TRUE(platform.Boxes.empty());
 
+  // A full disk: the file keeps its old bytes and the failure is told.
   ad.FileKind = kNexus;
+  const std::string path = dir.Write("x.nex", std::string(5000, 'x'));
+  const auto end = testing::RunWithWriteLimit(100, testing::WriteFault::kDiskFull, [&] {
+    platform.Answers.push_back(MsgAnswer::kOk);
+    const bool written = UpdateNexusDataFile(ad, Recorded(), path, platform, "v");
+    return !written && platform.LastBox() == "Error in saving file" ? 3 : 0;
+  });
+  EXPECT_TRUE(end.exited && end.code == 3);
+  EXPECT_EQ(ReadBytes(path), std::string(5000, 'x'));
+}
+
+TEST(UpdateNexusDataFile, DataReadFromStandardInputOrAPipeHaveNoFileToUpdate) {
+  TempDir dir;
+  const ActiveData ad = NexusData();
+  ScriptedPlatform platform;
   platform.Answers.push_back(MsgAnswer::kOk);
-  EXPECT_FALSE(UpdateNexusDataFile(ad, Recorded(), dir.File("none/x.nex"), platform, "v"));
-  EXPECT_EQ(platform.LastBox(), "Error in saving file");
+  EXPECT_FALSE(UpdateNexusDataFile(ad, Recorded(), "-", platform, "v"));
+  EXPECT_EQ(platform.LastBox(), "The data were read from standard input: there is no file to update.");
+  const std::string missing = dir.File("none/x.nex");
+  EXPECT_FALSE(UpdateNexusDataFile(ad, Recorded(), missing, platform, "v"));
+  EXPECT_EQ(platform.LastBox(), "The data were read from " + missing +
+                                    ", which is not a regular file: there is no file to update.");
+  EXPECT_FALSE(UpdateNexusDataFile(ad, Recorded(), "/dev/null", platform, "v"));
+  EXPECT_EQ(platform.Boxes.size(), 3u);  // no question was asked
 }
 
 }  // namespace

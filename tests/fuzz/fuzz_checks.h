@@ -3,8 +3,10 @@
 // returns a whole, consistent file layer. Anything else stops the fuzzer.
 
 #include <cstdlib>
+#include <string>
 #include <string_view>
 
+#include "core/utf8_text.h"
 #include "formats/read_file.h"
 
 namespace ovelt::fuzzing {
@@ -18,7 +20,10 @@ inline void CheckLoaded(const LoadedFile& file) {
   Require(file.Matrix.seqs() == file.NumSeqs());
   Require(file.Matrix.sites() == file.NumSites);
   for (int s = 1; s <= file.NumSeqs(); ++s) {
-    Require(file.Names[static_cast<size_t>(s)].size() == 20);
+    // A field of 20 characters; a UTF-8 letter is one, and no control character is left.
+    const std::string& name = file.Names[static_cast<size_t>(s)];
+    Require(CharacterCount(name) == 20);
+    Require(ShownControls(name) == name);
     const std::string_view cells(file.Matrix.sequence(s), static_cast<size_t>(file.NumSites));
     Require(cells.find_first_not_of("ACGT-?") == std::string_view::npos);
   }

@@ -10,13 +10,16 @@
 #include "output/output_channel.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
+#include "support/write_faults.h"
 
 namespace ovelt {
 namespace {
 
 using testing::ReadBytes;
+using testing::RunWithWriteLimit;
 using testing::ScriptedPlatform;
 using testing::TempDir;
+using testing::WriteFault;
 
 const std::string kOpening =
     " Ovelt  Ver. 4.00.5                        05 - March - 2004  14:05:09\r\n"
@@ -230,8 +233,22 @@ TEST(SessionFile, OpeningIsWrittenAndMenusChange) {
   EXPECT_FALSE(channel.Commands().SendAllEnabled);
   EXPECT_EQ(channel.Commands().CloseOutputCaption, "&Close Output File: " + path);
   EXPECT_TRUE(channel.Commands().CloseOutputEnabled);
-  // Already on disk before any result.
-  EXPECT_EQ(ReadBytes(path), kOpening);
+  // The file takes its place, whole, when the session closes.
+  EXPECT_FALSE(std::filesystem::exists(path));
+  ASSERT_TRUE(channel.CloseSessionFile());
+  EXPECT_EQ(ReadBytes(path), kOpening + kEndLine);
+}
+
+TEST(SessionFile, AnOldFileOfTheNameStaysUntilTheSessionCloses) {
+  TempDir dir;
+  ScriptedPlatform platform;
+  OutputChannel channel(platform);
+  const std::string path = dir.Write("all.out", "an earlier session");
+  ASSERT_TRUE(channel.SendAllOutput(path));
+  RunTajima(channel);
+  EXPECT_EQ(ReadBytes(path), "an earlier session");
+  ASSERT_TRUE(channel.CloseSessionFile());
+  EXPECT_EQ(ReadBytes(path), kOpening + kTajimaResult + kSeparator + kEndLine);
 }
 
 TEST(SessionFile, TwoAnalysesInARow) {
@@ -252,9 +269,7 @@ TEST(SessionFile, TwoAnalysesInARow) {
   EXPECT_EQ(channel.ResultCode, 5);
 
   // The session file holds both, each followed by the 76-character line.
-  EXPECT_EQ(ReadBytes(path), kOpening + kPolymorphismResult + kSeparator + kTajimaResult + kSeparator);
-
-  channel.CloseSessionFile();
+  ASSERT_TRUE(channel.CloseSessionFile());
   EXPECT_EQ(ReadBytes(path),
             kOpening + kPolymorphismResult + kSeparator + kTajimaResult + kSeparator + kEndLine);
   EXPECT_EQ(channel.SessionOpen, 0);
@@ -278,7 +293,8 @@ TEST(SessionFile, OnlyTextResultsAreCopied) {
                    kResultRemoveGraph, kResultGraphButtons}) {
     channel.ShowResult(kind);
   }
-  EXPECT_EQ(ReadBytes(path), kOpening);
+  ASSERT_TRUE(channel.CloseSessionFile());
+  EXPECT_EQ(ReadBytes(path), kOpening + kEndLine);
 }
 
 TEST(SessionFile, FailedRunIsNotCopied) {
@@ -292,7 +308,8 @@ TEST(SessionFile, FailedRunIsNotCopied) {
   channel.RunFailed = 1;
   channel.ResultCode = 2;
   channel.ShowResult(kResultTextOnly);
-  EXPECT_EQ(ReadBytes(path), kOpening);
+  ASSERT_TRUE(channel.CloseSessionFile());
+  EXPECT_EQ(ReadBytes(path), kOpening + kEndLine);
 }
 
 TEST(SessionFile, EndingTheProgramWritesTheEndLine) {
@@ -402,6 +419,48 @@ TEST(SessionFile, NewSessionClosesTheOldOneFirst) {
   ASSERT_TRUE(channel.SendAllOutput(second));
   EXPECT_EQ(ReadBytes(first), kOpening + kEndLine);
   EXPECT_EQ(channel.SessionFileName, second);
+}
+
+// A full disk, and a program killed while it writes, at several bytes of the file: the file of
+// that name keeps its old bytes, and the failure is told.
+TEST(SavedOutput, AFullDiskOrAKilledProgramLeavesTheOldFile) {
+  TempDir dir;
+  const std::string path = dir.Write("run.out", "an earlier output");
+  for (uint64_t limit : {0ull, 70ull, 150ull}) {
+    for (WriteFault fault : {WriteFault::kDiskFull, WriteFault::kKilled}) {
+      const auto end = RunWithWriteLimit(limit, fault, [&] {
+        ScriptedPlatform platform;
+        OutputChannel channel(platform);
+        RunPolymorphism(channel);
+        const bool saved = channel.SaveCurrentOutput(path);
+        return !saved && platform.LastBox() == "Can't save the output on the file: " + path ? 3 : 0;
+      });
+      EXPECT_TRUE(testing::EndedBy(end, fault, 3)) << limit;
+      EXPECT_EQ(ReadBytes(path), "an earlier output") << limit;
+    }
+  }
+}
+
+TEST(SessionFile, AFullDiskOrAKilledProgramLeavesTheOldFileAndTheCloseFails) {
+  TempDir dir;
+  const std::string path = dir.Write("all.out", "an earlier session");
+  // Full at the opening lines, then at the first and at the second result.
+  for (uint64_t limit : {uint64_t{10}, kOpening.size() + 10, kOpening.size() + 200}) {
+    for (WriteFault fault : {WriteFault::kDiskFull, WriteFault::kKilled}) {
+      const auto end = RunWithWriteLimit(limit, fault, [&] {
+        ScriptedPlatform platform;
+        OutputChannel channel(platform);
+        const bool opened = channel.SendAllOutput(path);
+        RunPolymorphism(channel);
+        RunPolymorphism(channel);
+        const bool closed = channel.CloseSessionFile();
+        const bool told = platform.LastBox().starts_with("Can't save the output on the file: ");
+        return (!opened || !closed) && told ? 3 : 0;
+      });
+      EXPECT_TRUE(testing::EndedBy(end, fault, 3)) << limit;
+      EXPECT_EQ(ReadBytes(path), "an earlier session") << limit;
+    }
+  }
 }
 
 }  // namespace

@@ -129,6 +129,25 @@ TEST(WindowChecks, EachFieldBreachIsAnInvalidSelection) {
   EXPECT_EQ(CheckSlidingWindow({50, 10, false}, 1, 50, 100), std::nullopt);
 }
 
+// The same checks give, for a user who does not see the dialog's fields, why.
+TEST(WindowChecks, EachBreachSaysWhy) {
+  auto reason = [](SlidingWindowSpec geometry, int32_t to, int32_t sites) {
+    const auto refusal = SlidingWindowRefusal(geometry, 1, to, sites);
+    return refusal ? refusal->Reason : std::string("passes");
+  };
+  EXPECT_EQ(reason({0, 1, false}, 100, 100),
+            "The window length (0) and the step size (1) must be above 0.");
+  EXPECT_EQ(reason({101, 10, false}, 100, 100),
+            "The window length (101) is longer than the data (100 sites).");
+  EXPECT_EQ(reason({5, 10, false}, 100, 100),
+            "The window length (5) is shorter than the step size (10).");
+  EXPECT_EQ(reason({60, 10, false}, 50, 100),
+            "The window length (60) is longer than the region (50 sites).");
+  EXPECT_EQ(reason({50, 10, false}, 50, 100), "passes");
+  // Too many windows: the box says it, nothing is added.
+  EXPECT_EQ(reason({1, 1, false}, 16350, 16350), "");
+}
+
 TEST(WindowDefaults, SmallFilesGetHalfAndAnEighth) {
   EXPECT_EQ(DefaultSlidingWindow(1000, false).WindowLength, 100);
   EXPECT_EQ(DefaultSlidingWindow(1000, false).StepSize, 25);

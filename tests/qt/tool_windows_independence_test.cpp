@@ -173,6 +173,7 @@ TEST_F(IndependenceWindowTest, AnOpenSessionFileReceivesTheResult) {
   IndependenceWindow w(wb);
   Type(w, {"3", "1", "1", "3"});
   w.ComputeButton()->click();
+  ASSERT_TRUE(wb.Output().CloseSessionFile());
   const std::string written = ReadBytes(session);
   EXPECT_NE(written.find("One-tailed test, P-value: 0.242857"), std::string::npos) << written;
 }

@@ -106,6 +106,8 @@ TEST(IndependenceRun, SavedAndSessionFilesHoldTheReport) {
     const std::string title_block = std::string("Tests of Independence \r\n") + " " +
                                     std::string(21, '-') + "\r\n" + kSymmetricReport + "\r\n";
     EXPECT_NE(testing::ReadBytes(saved).find(title_block), std::string::npos);
+    // The session file takes its place when the session closes.
+    ASSERT_TRUE(channel.CloseSessionFile());
     EXPECT_NE(
         testing::ReadBytes(session).find(title_block + std::string(38, '<') + std::string(38, '>')),
         std::string::npos)

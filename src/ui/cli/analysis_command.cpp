@@ -2,9 +2,9 @@
 
 #include <CLI/CLI.hpp>
 
-#include <fstream>
 #include <memory>
 
+#include "files/whole_file.h"
 #include "shell/command_registry.h"
 #include "shell/command_runner.h"
 #include "shell/workbench.h"
@@ -65,10 +65,7 @@ bool WriteJsonFile(const std::string& path, const std::string& json, Platform& p
     out << json << "\n";
     return true;
   }
-  std::ofstream file(path, std::ios::binary);
-  file << json << "\n";
-  file.flush();
-  if (!file) {
+  if (!WriteWholeFile(path, json + "\n")) {
     platform.MessageBox("Can't save the output on the file: " + path, MsgIcon::kWarning);
     return false;
   }

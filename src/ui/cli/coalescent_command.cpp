@@ -19,6 +19,9 @@
 namespace ovelt {
 namespace {
 
+// More threads than any machine gains from; the replicates are cut in blocks either way.
+constexpr int kMaxThreads = 256;
+
 struct CoalescentFlags {
   std::string theta;
   std::string segsites;
@@ -89,6 +92,8 @@ int Run(const CoalescentFlags& flags, const CliStreams& s) {
     wb.Output().CloseSessionFile();
     return kCliRefused;
   }
+  if (const auto notice = NoEffectiveReplicatesNotice(run))
+    platform.MessageBox(notice->Text, MsgIcon::kWarning, MsgButtons::kOk, notice->Title, false);
   if (!flags.json.empty()) {
     JsonText json;
     WriteJson(json, run);
@@ -142,7 +147,7 @@ void AddCoalescentCommand(CliRegistry& registry) {
                      "number: results repeat for a seed whatever N, but differ from the run "
                      "without --threads (or with 1), which draws every replicate from the one "
                      "stream of the seed")
-      ->check(CLI::PositiveNumber)
+      ->check(CLI::Range(1, kMaxThreads))
       ->capture_default_str();
   AddOutputOptions(app, flags.output);
   app.add_option("--json", flags.json,

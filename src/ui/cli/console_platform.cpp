@@ -24,7 +24,8 @@ MsgAnswer ConsolePlatform::MessageBox(const std::string& text, MsgIcon icon, Msg
       answer = MsgAnswer::kOk;
       break;
     case MsgButtons::kOkCancel:
-      // A notice with OK/Cancel goes on unless the user says otherwise.
+      // A notice with OK/Cancel goes on; questions whose OK changes data come through
+      // AskBeforeChange.
       answer = MsgAnswer::kOk;
       err_ << "(answered OK)\n";
       break;
@@ -35,6 +36,20 @@ MsgAnswer ConsolePlatform::MessageBox(const std::string& text, MsgIcon icon, Msg
   }
   err_.flush();
   return answer;
+}
+
+MsgAnswer ConsolePlatform::AskBeforeChange(const std::string& text, MsgIcon, const std::string& title) {
+  ++boxes_shown;
+  err_ << title << ":\n" << text << "\n";
+  err_ << (answer_yes ? "(answered OK)\n" : "(answered Cancel; add --yes to answer OK)\n");
+  err_.flush();
+  return answer_yes ? MsgAnswer::kOk : MsgAnswer::kCancel;
+}
+
+void ConsolePlatform::ExplainRefusal(const std::string& reason) {
+  if (reason.empty()) return;
+  err_ << reason << "\n";
+  err_.flush();
 }
 
 std::optional<std::string> ConsolePlatform::OpenFileName(const std::string&, const std::string&) {

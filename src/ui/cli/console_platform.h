@@ -17,6 +17,10 @@ class ConsolePlatform : public Platform {
 
   MsgAnswer MessageBox(const std::string& text, MsgIcon icon, MsgButtons buttons,
                        const std::string& title, bool default_second) override;
+  // Cancel unless --yes was given: nothing of the user's is changed without consent.
+  MsgAnswer AskBeforeChange(const std::string& text, MsgIcon icon,
+                            const std::string& title) override;
+  void ExplainRefusal(const std::string& reason) override;
   std::optional<std::string> OpenFileName(const std::string& title,
                                           const std::string& filter) override;
   std::optional<std::string> SaveFileName(const std::string& title, const std::string& filter,

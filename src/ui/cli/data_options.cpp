@@ -121,6 +121,7 @@ bool ApplyCoding(const DataOptions& o, Workbench& wb, std::ostream& err) {
       }
       if (!RegionIsValid(from, to, d.NumSites)) {
         wb.Ui().MessageBox(kInvalidSelection, MsgIcon::kWarning);
+        wb.Ui().ExplainRefusal(RegionFaultReason(from, to, d.NumSites));
         return false;
       }
       changed = (coding ? AssignCodingRegion(d, from, to, first)
@@ -174,8 +175,8 @@ bool ApplyAttributes(const DataOptions& o, Workbench& wb, std::ostream& err) {
   if (NeedsDiploidConfirmation(f.ChromosomalLocation, f.GenomeState) &&
       (f.ChromosomalLocation != d.Format.ChromosomalLocation ||
        f.GenomeState != d.Format.GenomeState)) {
-    if (wb.Ui().MessageBox(kDiploidQuestion + "\n" + InputFileLine(d), MsgIcon::kQuestion,
-                           MsgButtons::kOkCancel) != MsgAnswer::kOk)
+    if (wb.Ui().AskBeforeChange(kDiploidQuestion + "\n" + InputFileLine(d), MsgIcon::kQuestion) !=
+        MsgAnswer::kOk)
       return false;
   }
   d.Format = f;
@@ -231,11 +232,11 @@ void AddDataOptions(CLI::App& app, DataOptions& o) {
 }
 
 bool PrepareDataOptions(const DataOptions& o, ConsolePlatform& platform, std::ostream& err) {
-  if (!MegaSymbolsAreGiven(o.mega_match, o.mega_gap, o.mega_missing)) {
-    // The dialog's own answer to an empty symbol.
-    static_cast<Platform&>(platform).MessageBox(kMissingSymbolText, MsgIcon::kWarning,
-                                                MsgButtons::kOk, kMissingSymbolTitle);
-    err << "(each MEGA symbol must be one character)\n";
+  if (const auto refusal = CheckMegaSymbols(o.mega_match, o.mega_gap, o.mega_missing)) {
+    // The dialog's own answer, whatever the kind of the file: one rule for every command.
+    static_cast<Platform&>(platform).MessageBox(refusal->Text, MsgIcon::kWarning,
+                                                MsgButtons::kOk, refusal->Title);
+    if (refusal->Text == kMissingSymbolText) err << "(each MEGA symbol must be one character)\n";
     return false;
   }
   platform.mega.Layout = Lower(o.mega_layout) == "interleaved" ? 1 : 0;

@@ -112,9 +112,8 @@ int RunUpdateNexus(WriteJob& w, const CliStreams& s) {
   // The shape of the file (block order, unread blocks, comments), as its reader recorded it;
   // without it the file is written as the plain writer writes it.
   const NexusDocument document = wb.NexusBlocks().value_or(NexusDocument{});
-  const std::string& recent = wb.Recent().Entry(1);
-  const std::string path = recent.empty() ? wb.Data().FilePath : recent;
-  const bool written = UpdateNexusDataFile(wb.Data(), document, path, platform, kVersionText);
+  const bool written =
+      UpdateNexusDataFile(wb.Data(), document, wb.ReadPath(), platform, kVersionText);
   wb.SetStatus(0);
   return written ? kCliDone : kCliRefused;
 }

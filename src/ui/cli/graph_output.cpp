@@ -8,6 +8,14 @@
 
 namespace ovelt {
 
+std::string GraphFileNameFault(const std::string& path) {
+  const size_t dot = path.find_last_of("./");
+  std::string extension = dot == std::string::npos || path[dot] != '.' ? "" : path.substr(dot);
+  for (char& c : extension) c = static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+  if (extension == ".png" || extension == ".svg" || extension == ".bmp") return "";
+  return "\"" + path + "\" names no picture format: end the name in .png, .svg or .bmp";
+}
+
 bool WriteGraphFile(const OutputChannel& channel, const std::string& path, Platform& platform) {
   const GraphPicture picture =
       channel.GraphOn != 0 ? LayoutGraph(channel.Graph(), {}) : GraphPicture{};

@@ -2,9 +2,9 @@
 
 #include <CLI/CLI.hpp>
 
-#include <fstream>
 #include <ostream>
 
+#include "files/whole_file.h"
 #include "shell/workbench.h"
 #include "ui/cli/console_platform.h"
 #include "ui/cli/graph_output.h"
@@ -24,18 +24,26 @@ std::string WithNewlines(const std::string& text) {
   return plain;
 }
 
-bool WriteGridTsv(const OutputGrid& grid, const std::string& path, Platform& platform) {
-  std::ofstream file(path, std::ios::binary);
-  auto write_row = [&file](const std::vector<std::string>& cells) {
-    for (size_t i = 0; i < cells.size(); ++i) file << (i ? "\t" : "") << cells[i];
-    file << "\n";
+std::string GridTsv(const OutputGrid& grid) {
+  std::string text;
+  auto add_row = [&text](const std::vector<std::string>& cells) {
+    for (size_t i = 0; i < cells.size(); ++i) text += (i ? "\t" : "") + cells[i];
+    text += "\n";
   };
-  if (file) {
-    if (!grid.ColumnTitles.empty()) write_row(grid.ColumnTitles);
-    for (const auto& row : grid.Rows) write_row(row);
-    file.flush();
+  if (!grid.ColumnTitles.empty()) add_row(grid.ColumnTitles);
+  for (const auto& row : grid.Rows) add_row(row);
+  return text;
+}
+
+// "-" is standard output, as for --json.
+bool WriteGridTsv(const OutputGrid& grid, const std::string& path, Platform& platform,
+                  std::ostream& out) {
+  if (path == "-") {
+    out << GridTsv(grid);
+    out.flush();
+    return static_cast<bool>(out);
   }
-  if (!file) {
+  if (!WriteWholeFile(path, GridTsv(grid))) {
     platform.MessageBox("Can't save the output on the file: " + path, MsgIcon::kWarning);
     return false;
   }
@@ -51,11 +59,14 @@ void AddOutputOptions(CLI::App& app, OutputOptions& o) {
   app.add_option("--session", o.session,
                  "Send all output to this session file (Send All Output to File)")
       ->group(group);
-  app.add_option("--grid", o.grid, "Write the result's grid to this file as tab-separated values")
+  app.add_option("--grid", o.grid,
+                 "Write the result's grid to this file as tab-separated values (- for standard "
+                 "output)")
       ->group(group);
   app.add_option("--graph", o.graph,
                  "Draw the run's graph on this file (.png, .svg or .bmp), for the commands that "
                  "leave one (sliding windows, mismatch distribution)")
+      ->check(CLI::Validator(GraphFileNameFault, "FILE.png|.svg|.bmp"))
       ->group(group);
 }
 
@@ -74,10 +85,9 @@ bool FinishOutput(const OutputOptions& o, Workbench& wb, const std::string& titl
   }
   bool ok = true;
   if (!o.out.empty()) ok = channel.SaveCurrentOutput(o.out) && ok;
-  if (!o.grid.empty()) ok = WriteGridTsv(channel.Grid1, o.grid, wb.Ui()) && ok;
+  if (!o.grid.empty()) ok = WriteGridTsv(channel.Grid1, o.grid, wb.Ui(), out) && ok;
   if (!o.graph.empty()) ok = WriteGraphFile(channel, o.graph, wb.Ui()) && ok;
-  channel.CloseSessionFile();
-  return ok;
+  return channel.CloseSessionFile() && ok;
 }
 
 }  // namespace ovelt

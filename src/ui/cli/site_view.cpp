@@ -40,6 +40,7 @@ bool RunSiteView(Workbench& wb, const SiteViewOptions& o) {
   const int32_t to = o.to == 0 ? d.NumSites : o.to;
   if (!RegionIsValid(from, to, d.NumSites)) {
     wb.Ui().MessageBox(kInvalidSelection, MsgIcon::kWarning);
+    wb.Ui().ExplainRefusal(RegionFaultReason(from, to, d.NumSites));
     return false;
   }
   OutputChannel& channel = wb.Output();
@@ -48,6 +49,7 @@ bool RunSiteView(Workbench& wb, const SiteViewOptions& o) {
   const Selection sel = SelectOneSet(d, set, {from, to});
   if (sel.SelCount1 < 1) {
     wb.Ui().MessageBox(TooFewSequencesMessage(1), MsgIcon::kWarning);
+    wb.Ui().ExplainRefusal(SetTooSmallReason(d, set, sel.SelCount1));
     return false;
   }
 

@@ -59,9 +59,7 @@ void AddExportHandlers(MainWindow& window) {
     // The shape of the file as its reader recorded it; without one the file is written as the
     // plain writer writes it.
     const NexusDocument document = wb.NexusBlocks().value_or(NexusDocument{});
-    const std::string& recent = wb.Recent().Entry(1);
-    const std::string path = recent.empty() ? wb.Data().FilePath : recent;
-    UpdateNexusDataFile(wb.Data(), document, path, wb.Ui(), kVersionText);
+    UpdateNexusDataFile(wb.Data(), document, wb.ReadPath(), wb.Ui(), kVersionText);
     wb.SetStatus(0);
   });
   window.AddHandler("MenuSalvarData_Click", [parent, &wb] {

@@ -40,9 +40,9 @@ void PaintGraph(QPainter& painter, const QRect& target, const GraphPicture& pict
 inline constexpr int kGraphImageWidth = 876;
 inline constexpr int kGraphImageHeight = 564;
 
-// Writes the picture to `path`: SVG for ".svg", a PNG for ".png", a bitmap otherwise (".bmp").
-// Works without a running application (the command line): one is made for the time of the call.
-// False when the file cannot be written.
+// Writes the picture to `path`, whole or not at all: SVG for ".svg", a PNG for ".png", a bitmap
+// otherwise (".bmp"). Works without a running application (the command line): one is made for
+// the time of the call. False when the file cannot be written.
 bool SaveGraphFile(const GraphPicture& picture, const std::string& path,
                    const GraphPalette& palette = {});
 

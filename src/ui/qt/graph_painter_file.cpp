@@ -1,7 +1,6 @@
 // Writing a chart to a file, from the desktop or from the command line.
 
 #include <QBuffer>
-#include <QFile>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QSvgGenerator>
@@ -9,6 +8,7 @@
 #include <cstdlib>
 #include <memory>
 
+#include "files/whole_file.h"
 #include "ui/qt/graph_painter.h"
 
 namespace ovelt {
@@ -24,22 +24,27 @@ bool EndsWith(const std::string& text, const std::string& tail) {
   return true;
 }
 
-bool WriteSvg(const GraphPicture& picture, const QString& path, const GraphPalette& palette) {
-  // The generator writes through a buffer so that a file that cannot be opened is told apart.
+// The picture's bytes in the file's format: SVG, PNG or BMP.
+QByteArray PictureBytes(const GraphPicture& picture, const std::string& path,
+                        const GraphPalette& palette) {
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
-  QSvgGenerator svg;
-  svg.setOutputDevice(&buffer);
-  svg.setSize(QSize(kGraphImageWidth, kGraphImageHeight));
-  svg.setViewBox(QRect(0, 0, kGraphImageWidth, kGraphImageHeight));
-  svg.setTitle("Ovelt graph");
-  QPainter painter;
-  if (!painter.begin(&svg)) return false;
-  PaintGraph(painter, QRect(0, 0, kGraphImageWidth, kGraphImageHeight), picture, palette);
-  painter.end();
-  QFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) return false;
-  return file.write(buffer.data()) == buffer.data().size();
+  if (EndsWith(path, ".svg")) {
+    QSvgGenerator svg;
+    svg.setOutputDevice(&buffer);
+    svg.setSize(QSize(kGraphImageWidth, kGraphImageHeight));
+    svg.setViewBox(QRect(0, 0, kGraphImageWidth, kGraphImageHeight));
+    svg.setTitle("Ovelt graph");
+    QPainter painter;
+    if (!painter.begin(&svg)) return {};
+    PaintGraph(painter, QRect(0, 0, kGraphImageWidth, kGraphImageHeight), picture, palette);
+    painter.end();
+  } else {
+    const QImage image =
+        RenderGraphImage(picture, QSize(kGraphImageWidth, kGraphImageHeight), palette);
+    if (!image.save(&buffer, EndsWith(path, ".png") ? "PNG" : "BMP")) return {};
+  }
+  return buffer.data();
 }
 
 }  // namespace
@@ -55,11 +60,10 @@ bool SaveGraphFile(const GraphPicture& picture, const std::string& path,
     static char* argv[] = {name, nullptr};
     own = std::make_unique<QGuiApplication>(argc, argv);
   }
-  const QString file = QString::fromStdString(path);
-  if (EndsWith(path, ".svg")) return WriteSvg(picture, file, palette);
-  const QImage image =
-      RenderGraphImage(picture, QSize(kGraphImageWidth, kGraphImageHeight), palette);
-  return image.save(file, EndsWith(path, ".png") ? "PNG" : "BMP");
+  // Drawn whole in memory first, so that the file is written whole or not at all.
+  const QByteArray bytes = PictureBytes(picture, path, palette);
+  if (bytes.isEmpty()) return false;
+  return WriteWholeFile(path, std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())));
 }
 
 }  // namespace ovelt

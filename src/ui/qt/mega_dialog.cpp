@@ -45,9 +45,11 @@ MegaDialog::MegaDialog(const QString& file_name, QWidget* parent) : QDialog(pare
 }
 
 void MegaDialog::accept() {
-  if (!MegaSymbolsAreGiven(match_->text().toStdString(), gap_->text().toStdString(),
-                           missing_->text().toStdString())) {
-    QMessageBox::warning(this, kMissingSymbolTitle, kMissingSymbolText);
+  if (const auto refusal = CheckMegaSymbols(match_->text().toStdString(),
+                                            gap_->text().toStdString(),
+                                            missing_->text().toStdString())) {
+    QMessageBox::warning(this, QString::fromStdString(refusal->Title),
+                         QString::fromStdString(refusal->Text));
     return;  // the dialog stays open
   }
   QDialog::accept();

@@ -282,6 +282,8 @@ void CoalescentWindow::RunAndShow() {
     wb_.Ui().MessageBox(refusal->Text, MsgIcon::kWarning, MsgButtons::kOk, refusal->Title, false);
     return;
   }
+  if (const auto notice = NoEffectiveReplicatesNotice(run))
+    wb_.Ui().MessageBox(notice->Text, MsgIcon::kWarning, MsgButtons::kOk, notice->Title, false);
   const SimulationResult& r = run.Result;
   filling_ = true;
   if (observed_->text().trimmed().isEmpty()) observed_->setText("0");

@@ -12,17 +12,19 @@ SlidingWindowSpec DnaPolWindow(const DnaPolOptions& options, int32_t num_sites,
   return geometry;
 }
 
-std::optional<std::string> ValidateDnaPolOptions(const DnaPolOptions& options, int32_t num_sites,
-                                                 bool gaps_in_window) {
+std::optional<SelectionRefusal> ValidateDnaPolOptions(const DnaPolOptions& options,
+                                                      int32_t num_sites, bool gaps_in_window) {
   DnaPolOptions checked = options;
-  if (auto failure = CheckOptionRanges(checked)) return failure;
+  if (auto failure = OptionRangeRefusal(checked)) return failure;
   const int32_t to = options.RegionTo == 0 ? num_sites : options.RegionTo;
   if (options.SlidingOn) {
     const SlidingWindowSpec geometry = DnaPolWindow(options, num_sites, gaps_in_window);
-    if (auto failure = CheckSlidingWindow(geometry, options.RegionFrom, to, num_sites))
+    if (auto failure = SlidingWindowRefusal(geometry, options.RegionFrom, to, num_sites))
       return failure;
   }
-  if (!RegionIsValid(options.RegionFrom, to, num_sites)) return kInvalidSelection;
+  if (!RegionIsValid(options.RegionFrom, to, num_sites))
+    return SelectionRefusal{kInvalidSelection,
+                            RegionFaultReason(options.RegionFrom, to, num_sites)};
   return std::nullopt;
 }
 

@@ -55,10 +55,11 @@ struct DnaPolOptions {
                                              bool gaps_in_window);
 
 // The dialog's checks on OK, in their order: the window (when on), then the region (both ends
-// in 1..num_sites, from not above to). The message of the first failure ("\n" between lines).
-[[nodiscard]] std::optional<std::string> ValidateDnaPolOptions(const DnaPolOptions& options,
-                                                               int32_t num_sites,
-                                                               bool gaps_in_window);
+// in 1..num_sites, from not above to). The message of the first failure ("\n" between lines)
+// and why.
+[[nodiscard]] std::optional<SelectionRefusal> ValidateDnaPolOptions(const DnaPolOptions& options,
+                                                                    int32_t num_sites,
+                                                                    bool gaps_in_window);
 
 // What the dialog's check boxes allow together: the missing-data mode excludes Pi(JC) and the
 // variance of Pi (switching either side on clears the other), and the sliding window disables

@@ -71,12 +71,14 @@ struct FuLiOutgroupOptions {
                                                  int32_t num_sites, bool gaps_in_window);
 
 // The dialog's checks on OK, in their order: the ranges of the fields, the window (when on),
-// then the region. The message of the first failure ("\n" between lines).
-[[nodiscard]] std::optional<std::string> ValidateNeutralityOptions(NeutralityOptions options,
-                                                                   int32_t num_sites,
-                                                                   bool gaps_in_window);
-[[nodiscard]] std::optional<std::string> ValidateFuLiOutgroupOptions(FuLiOutgroupOptions options,
-                                                                     int32_t num_sites,
-                                                                     bool gaps_in_window);
+// then the region; with an outgroup, first that it is another set than the intraspecific data.
+// The message of the first failure ("\n" between lines) and why.
+[[nodiscard]] std::optional<SelectionRefusal> ValidateNeutralityOptions(
+    NeutralityOptions options, int32_t num_sites, bool gaps_in_window);
+[[nodiscard]] std::optional<SelectionRefusal> ValidateFuLiOutgroupOptions(
+    FuLiOutgroupOptions options, int32_t num_sites, bool gaps_in_window);
+
+inline constexpr const char* kSameSetTwice =
+    "The Intraspecific Data and the Outgroup must be two different Sequence Sets.";
 
 }  // namespace ovelt

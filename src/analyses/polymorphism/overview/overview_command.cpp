@@ -20,9 +20,10 @@ int32_t RegionEnd(int32_t to, const ActiveData& data) {
   return to == 0 ? data.NumSites : to;
 }
 
-std::optional<std::string> RegionRefusal(int32_t from, int32_t to, const ActiveData& data) {
-  if (RegionIsValid(from, RegionEnd(to, data), data.NumSites)) return std::nullopt;
-  return std::string(kInvalidSelection);
+std::optional<SelectionRefusal> RegionRefusal(int32_t from, int32_t to, const ActiveData& data) {
+  const int32_t end = RegionEnd(to, data);
+  if (RegionIsValid(from, end, data.NumSites)) return std::nullopt;
+  return SelectionRefusal{kInvalidSelection, RegionFaultReason(from, end, data.NumSites)};
 }
 
 std::string JoinCells(const std::vector<std::string>& cells) {
@@ -163,10 +164,13 @@ std::shared_ptr<const CommandBinding> IntraspecificBinding() {
 std::shared_ptr<const CommandBinding> MultiDomainBinding() {
   AnalysisParts<MultiDomainOptions, std::vector<MultiDomainRow>> parts;
   parts.Validate = [](const MultiDomainOptions& options,
-                      const ActiveData& data) -> std::optional<std::string> {
+                      const ActiveData& data) -> std::optional<SelectionRefusal> {
     if (auto refusal = RegionRefusal(options.RegionFrom, options.RegionTo, data)) return refusal;
     if (!options.Domains.empty() && !ParseDomains(options.Domains, data.NumSites))
-      return std::string(kInvalidSelection);
+      return SelectionRefusal{kInvalidSelection,
+                              "Domains are NAME=FROM-TO (several joined by \";\"), with named "
+                              "domains and sites from 1 to " +
+                                  std::to_string(data.NumSites) + "."};
     return std::nullopt;
   };
   parts.BusyWords = [](const MultiDomainOptions&) { return "Computing and displaying output..."; };

@@ -12,6 +12,13 @@ namespace ovelt {
 
 namespace {
 
+// Why the values of the model were refused, where the box says only " Invalid Selection ".
+std::string ModelValuesReason(const SizeChangeParameters& values) {
+  if (values.ThetaInitial < 0.0) return "Theta initial must not be below 0.";
+  if (values.Tau < 0.0) return "Tau must not be below 0.";
+  return "";
+}
+
 bool Mismatch(const SizeChangeOptions& options) {
   return options.AnalysisKind == kMismatchKind || options.AnalysisKind == kMismatchKindToo;
 }
@@ -27,7 +34,8 @@ SizeChangeResult Compute(const Selection& sel, const SizeChangeOptions& options,
            "\nInput data file: " + sel.data().FilePath);
     }
     const SizeChangeParameters values = ResolveSizeChangeParameters(options, result);
-    if (const auto failure = ValidateSizeChange(options, values)) Refuse(*failure);
+    if (const auto failure = ValidateSizeChange(options, values))
+      Refuse(*failure, *failure == kInvalidSelection ? ModelValuesReason(values) : "");
     ExpectSizeChange(result, options, values);
     return result;
   } catch (const CommandFailure&) {
@@ -62,9 +70,10 @@ CommandReport Report(const SizeChangeResult& result, const Selection& sel,
 std::shared_ptr<const CommandBinding> SizeChangeBinding() {
   AnalysisParts<SizeChangeOptions, SizeChangeResult> parts;
   parts.Validate = [](const SizeChangeOptions& options,
-                      const ActiveData& data) -> std::optional<std::string> {
+                      const ActiveData& data) -> std::optional<SelectionRefusal> {
     const int32_t to = options.RegionTo == 0 ? data.NumSites : options.RegionTo;
-    if (!RegionIsValid(options.RegionFrom, to, data.NumSites)) return kInvalidSelection;
+    if (!RegionIsValid(options.RegionFrom, to, data.NumSites))
+      return SelectionRefusal{kInvalidSelection, RegionFaultReason(options.RegionFrom, to, data.NumSites)};
     return std::nullopt;
   };
   parts.BusyWords = [](const SizeChangeOptions&) { return "Computing Pairwise Differences..."; };

@@ -31,15 +31,30 @@ SlidingWindowSpec DefaultSlidingWindow(int32_t num_sites, bool gaps_in_window) {
   return geometry;
 }
 
+std::optional<SelectionRefusal> SlidingWindowRefusal(const SlidingWindowSpec& geometry,
+                                                     int32_t from, int32_t to, int32_t num_sites) {
+  const std::string window = "The window length (" + std::to_string(geometry.WindowLength) + ")";
+  const std::string step = "the step size (" + std::to_string(geometry.StepSize) + ")";
+  if (geometry.WindowLength <= 0 || geometry.StepSize <= 0)
+    return SelectionRefusal{kInvalidSelection, window + " and " + step + " must be above 0."};
+  const double windows = (static_cast<double>(to) - from + 1.0) / geometry.StepSize;
+  if (windows >= kMaxWindows)
+    return SelectionRefusal{kTooManyWindows + "\n\n" + kInvalidSelection, ""};
+  if (geometry.WindowLength > num_sites)
+    return SelectionRefusal{kInvalidSelection, window + " is longer than the data (" +
+                                                   std::to_string(num_sites) + " sites)."};
+  if (geometry.WindowLength < geometry.StepSize)
+    return SelectionRefusal{kInvalidSelection, window + " is shorter than " + step + "."};
+  const int64_t region = static_cast<int64_t>(to) - from + 1;
+  if (static_cast<int64_t>(geometry.WindowLength) > region)
+    return SelectionRefusal{kInvalidSelection, window + " is longer than the region (" +
+                                                   std::to_string(region) + " sites)."};
+  return std::nullopt;
+}
+
 std::optional<std::string> CheckSlidingWindow(const SlidingWindowSpec& geometry, int32_t from,
                                               int32_t to, int32_t num_sites) {
-  if (geometry.WindowLength <= 0 || geometry.StepSize <= 0) return kInvalidSelection;
-  const double windows = (static_cast<double>(to) - from + 1.0) / geometry.StepSize;
-  if (windows >= kMaxWindows) return kTooManyWindows + "\n\n" + kInvalidSelection;
-  if (geometry.WindowLength > num_sites) return kInvalidSelection;
-  if (geometry.WindowLength < geometry.StepSize) return kInvalidSelection;
-  if (static_cast<int64_t>(geometry.WindowLength) > static_cast<int64_t>(to) - from + 1)
-    return kInvalidSelection;
+  if (auto refusal = SlidingWindowRefusal(geometry, from, to, num_sites)) return refusal->Text;
   return std::nullopt;
 }
 

@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "core/region_check.h"
+
 namespace ovelt {
 
 struct SlidingWindowSpec {
@@ -43,6 +45,9 @@ inline const std::string kIncreaseStep = "Try to increase the step size (Sliding
 // The checks of the window fields in the option dialog, in their order: both above 0, not too
 // many windows, length within the file, not below the step, not beyond the region. The message
 // of the first failure ("\n" between lines), or nothing when the window is acceptable.
+// SlidingWindowRefusal gives the same message with, for a bare " Invalid Selection ", why.
+[[nodiscard]] std::optional<SelectionRefusal> SlidingWindowRefusal(
+    const SlidingWindowSpec& geometry, int32_t from, int32_t to, int32_t num_sites);
 [[nodiscard]] std::optional<std::string> CheckSlidingWindow(const SlidingWindowSpec& geometry,
                                                             int32_t from, int32_t to,
                                                             int32_t num_sites);
