@@ -35,6 +35,11 @@ class JsonFields {
   void Numbers(std::string_view key, const std::vector<double>& values) {
     json_.Numbers(key, values);
   }
+  void Integers(std::string_view key, const std::vector<int32_t>& values) {
+    json_.BeginArray(key);
+    for (const int32_t value : values) json_.Integer({}, value);
+    json_.EndArray();
+  }
   void Optional(std::string_view key, const std::optional<double>& value) {
     if (value) {
       json_.Number(key, *value);

@@ -19,8 +19,10 @@ TEST(FuLiOutgroupTest, FiveSequencesCountingMutations) {
   // 6 / (25/12) = 2.88. H: S(1) = 5, S(4) = 1, ThetaH = 2.1, ThetaPi = 2.4, H = 0.3.
   const auto ad = test::WithOutgroup(NeutralityRows(), OutgroupRow());
   const FuLiOutgroupResult r = ComputeFuLiOutgroupTest(ad, 1, 10, true, std::nullopt);
-  EXPECT_NEAR(r.D, -1.2904881, 1e-7);
-  EXPECT_NEAR(r.F, -1.5438885, 1e-7);
+  ASSERT_TRUE(r.D.has_value());
+  ASSERT_TRUE(r.F.has_value());
+  EXPECT_NEAR(*r.D, -1.2904881, 1e-7);
+  EXPECT_NEAR(*r.F, -1.5438885, 1e-7);
   EXPECT_NEAR(r.FayWu.H, 0.3, 1e-12);
   EXPECT_EQ(FuLiOutgroupHead(ad, r),
             "\r\n"
@@ -85,7 +87,8 @@ TEST(FuLiOutgroupTest, GapsOfTheCompleteFileAreSaidInTheHead) {
 TEST(FuLiOutgroupTest, NoMutationLeavesDAndFNotDetermined) {
   const auto ad = test::WithOutgroup({"ACGT", "ACGT", "ACGT"}, "ACGA");
   const FuLiOutgroupResult r = ComputeFuLiOutgroupTest(ad, 1, 4, true, std::nullopt);
-  EXPECT_FALSE(r.Determined);
+  EXPECT_FALSE(r.D.has_value());
+  EXPECT_FALSE(r.F.has_value());
   const std::string body = FuLiOutgroupReportBody(r);
   EXPECT_NE(body.find(" Fu and Li's D test statistic, FL-D: n.d.\r\n"
                       "     Statistical significance: Not determined\r\n"),

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "analyses/polymorphism/neutrality/fu_li_compute.h"
+#include "analyses/polymorphism/neutrality/neutrality_significance.h"
 #include "stats/fs_statistic.h"
 #include "neutrality_fixture.h"
 
@@ -105,9 +106,10 @@ TEST(FuLiTest, SignificantValuesInWords) {
   FuLiTestResult r;
   r.Sequences = 100;
   r.Totals.SegSites = 50;
-  r.Determined = true;
   r.DStar = -3.3;  // beyond the 2 % bound of n = 100 (-3.27)
   r.FStar = 1.5;   // beyond the 10 % bound (1.47)
+  r.DStarMark = SignificanceFuLi(*r.DStar, FuLiTable::kDStar, r.Sequences);
+  r.FStarMark = SignificanceFuLi(*r.FStar, FuLiTable::kFStar, r.Sequences);
   const std::string body = FuLiReportBody(r);
   EXPECT_NE(body.find(" Fu and Li's D* test statistic: -3.30000\r\n"
                       "     Statistical significance: **, P < 0.02\r\n"),

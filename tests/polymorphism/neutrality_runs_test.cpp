@@ -209,7 +209,7 @@ TEST(FuLiRun, SlidingWindowTable) {
   EXPECT_EQ(b.channel.Grid1.ColumnTitles, FuLiGridTitles());
   const FuLiTestResult result = FuLiOf(b.ad, o);
   ASSERT_TRUE(result.Windows.has_value());
-  EXPECT_EQ(b.channel.Grid1.Rows[3], FuLiGridRow(result.Windows->Rows[3], 5));
+  EXPECT_EQ(b.channel.Grid1.Rows[3], FuLiGridRow(result.Windows->Rows[3]));
   EXPECT_EQ(b.channel.Graph().GraphKind, kGraphFuLi);
   // Window 7..8 has no mutation: the legend tells what n.d. means.
   EXPECT_NE(b.Body().find(FuLiWindowLegend(true) + "\r\n"), std::string::npos);
@@ -271,7 +271,7 @@ TEST(FuLiOutgroupRun, SlidingWindowTable) {
   ASSERT_EQ(b.channel.Grid1.Rows.size(), 2U);
   const FuLiOutgroupResult result = FuLiOutgroupOf(b.ad, o);
   ASSERT_TRUE(result.Windows.has_value());
-  EXPECT_EQ(b.channel.Grid1.Rows[0], FuLiOutgroupGridRow(result.Windows->Rows[0], 5));
+  EXPECT_EQ(b.channel.Grid1.Rows[0], FuLiOutgroupGridRow(result.Windows->Rows[0]));
   EXPECT_EQ(b.channel.Graph().GraphKind, kGraphFuLiOutgroup);
   EXPECT_EQ(b.channel.GridTextHead(), "     Window Midpoint   FL-D  Sign     FL-F  Sign     FW-H");
   EXPECT_NE(b.Body().find(FuLiWindowLegend(false) + "\r\n"), std::string::npos);

@@ -74,8 +74,9 @@ TEST(NeutralityWindows, WindowWithoutSegregatingSiteIsNotDetermined) {
   EXPECT_EQ(graph.Table.at(1, 2), static_cast<float>(*w.Rows[0].D));
 
   const FuLiWindows f = ComputeFuLiWindows(TallySites(sel, 1, 10), Window(2, 2), 5, true);
-  EXPECT_FALSE(f.Rows[3].Determined);
-  const std::vector<std::string> fu_cells = FuLiGridRow(f.Rows[3], 5);
+  EXPECT_FALSE(f.Rows[3].DStar.has_value());
+  EXPECT_EQ(f.Rows[3].DStarMark, "n.d.");
+  const std::vector<std::string> fu_cells = FuLiGridRow(f.Rows[3]);
   EXPECT_EQ(fu_cells, (std::vector<std::string>{WindowCell(f.Rows[3].Window), fu_cells[1], "n.d.",
                                                 "n.d.", "n.d.", "n.d."}));
 }
@@ -88,8 +89,10 @@ TEST(NeutralityWindows, FuLiPerWindowFromTheWindowsCounts) {
   EXPECT_EQ(w.Rows[1].Eta, 4);
   EXPECT_EQ(w.Rows[1].EtaS, 3);
   const FuLiPair expected = FuLiStarFromCounts(5, 4, 3, 1.7);
-  EXPECT_NEAR(w.Rows[1].DStar, expected.D, 1e-12);
-  EXPECT_NEAR(w.Rows[1].FStar, expected.F, 1e-12);
+  ASSERT_TRUE(w.Rows[1].DStar.has_value());
+  ASSERT_TRUE(w.Rows[1].FStar.has_value());
+  EXPECT_NEAR(*w.Rows[1].DStar, expected.D, 1e-12);
+  EXPECT_NEAR(*w.Rows[1].FStar, expected.F, 1e-12);
   const GraphData graph = FuLiGraph(w);
   EXPECT_EQ(graph.GraphKind, kGraphFuLi);
   EXPECT_EQ(graph.Table.at(2, 3), static_cast<float>(expected.F));
@@ -114,9 +117,11 @@ TEST(NeutralityWindows, OutgroupWindowsSkipTheOutgroupsGap) {
   EXPECT_EQ(w.Rows[0].EtaE, 2);
   EXPECT_NEAR(w.Rows[0].FayWu.H, 1.2 - 1.8, 1e-12);
   const FuLiPair expected = FuLiOutgroupFromCounts(5, 3, 2, 1.2);
-  EXPECT_NEAR(w.Rows[0].D, expected.D, 1e-12);
-  EXPECT_NEAR(w.Rows[0].F, expected.F, 1e-12);
-  const std::vector<std::string> cells = FuLiOutgroupGridRow(w.Rows[0], 5);
+  ASSERT_TRUE(w.Rows[0].D.has_value());
+  ASSERT_TRUE(w.Rows[0].F.has_value());
+  EXPECT_NEAR(*w.Rows[0].D, expected.D, 1e-12);
+  EXPECT_NEAR(*w.Rows[0].F, expected.F, 1e-12);
+  const std::vector<std::string> cells = FuLiOutgroupGridRow(w.Rows[0]);
   ASSERT_EQ(cells.size(), 7U);
   EXPECT_EQ(cells[6], "-0.6000");
   EXPECT_EQ(cells[3], "    ");

@@ -1,7 +1,6 @@
 #include "analyses/polymorphism/neutrality/fu_li_command.h"
 
 #include "analyses/polymorphism/neutrality/fu_li_compute.h"
-#include "analyses/polymorphism/neutrality/fu_li_json.h"
 #include "analyses/polymorphism/neutrality/fu_li_report.h"
 #include "analyses/polymorphism/neutrality/neutrality_command_steps.h"
 #include "analyses/polymorphism/neutrality/neutrality_failure.h"
@@ -33,8 +32,7 @@ CommandReport Report(const FuLiTestResult& result, const Selection& sel, const N
         report, sel.data().FileName, FuLiGridTitles(),
         [&windows] {
           std::vector<std::vector<std::string>> rows;
-          for (const FuLiWindow& row : windows.Rows)
-            rows.push_back(FuLiGridRow(row, windows.Sequences));
+          for (const FuLiWindow& row : windows.Rows) rows.push_back(FuLiGridRow(row));
           return rows;
         },
         [&windows] { return FuLiGraph(windows); });
@@ -57,11 +55,6 @@ std::shared_ptr<const CommandBinding> FuLiBinding() {
   parts.Compute = Compute;
   parts.Report = Report;
   parts.JsonName = "Fu and Li's Tests";
-  parts.Json = [](const FuLiTestResult& result) {
-    JsonText json;
-    WriteJson(json, result);
-    return json.Text();
-  };
   return MakeAnalysis(std::move(parts));
 }
 

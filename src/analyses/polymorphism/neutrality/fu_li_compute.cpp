@@ -3,6 +3,7 @@
 #include <new>
 
 #include "analyses/polymorphism/neutrality/neutrality_failure.h"
+#include "analyses/polymorphism/neutrality/neutrality_significance.h"
 #include "analyses/polymorphism/neutrality/neutrality_sites.h"
 
 namespace ovelt {
@@ -27,10 +28,11 @@ FuLiTestResult ComputeFuLiTest(const Selection& sel, int32_t from, int32_t to, b
     result.ThetaK = t.K;
     result.ThetaEtaS = (n - 1.0) * t.EtaS / n;
     result.ThetaEta = t.Eta / c.a1;
-    result.Determined = t.Eta > 0;
-    if (result.Determined) {
+    if (t.Eta > 0) {
       result.DStar = FuLiDStarValue(t.Eta, t.EtaS, c.a1, c.uD, c.vD, n);
       result.FStar = FuLiFStarValue(t.K, t.Eta, t.EtaS, c.uF, c.vF, n);
+      result.DStarMark = SignificanceFuLi(*result.DStar, FuLiTable::kDStar, n);
+      result.FStarMark = SignificanceFuLi(*result.FStar, FuLiTable::kFStar, n);
     }
     if (t.K > 0.0) result.Haplotypes = ComputeHaplotypes(sel, from, to);
     return result;
@@ -44,7 +46,7 @@ FuLiTestResult ComputeFuLiTest(const Selection& sel, int32_t from, int32_t to, b
       r.FsFailure = FsFault::kOther;
     }
   }
-  if (window && r.Determined) {
+  if (window && r.DStar) {
     r.Windows = GuardFault(kFuLiWindowFault, true, [&] {
       return ComputeFuLiWindows(tallies, *window, r.Sequences, use_mutations, gauge);
     });

@@ -6,9 +6,13 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
+#include "analyses/polymorphism/common/haplotype_fields.h"
 #include "analyses/polymorphism/common/haplotypes.h"
 #include "analyses/polymorphism/common/poly_gauge.h"
+#include "analyses/polymorphism/neutrality/fs_fields.h"
+#include "analyses/polymorphism/neutrality/neutrality_significance.h"
 #include "analyses/polymorphism/neutrality/neutrality_totals.h"
 #include "analyses/polymorphism/neutrality/neutrality_windows.h"
 #include "analyses/polymorphism/windows/sliding_window.h"
@@ -32,13 +36,39 @@ struct FuLiTestResult {
   double ThetaEtaS = 0.0;   // (n - 1) EtaS / n
   double ThetaEta = 0.0;    // Eta / a1
   FuLiCoefficients Coefficients;
-  bool Determined = false;  // Eta above 0
-  double DStar = 0.0;
-  double FStar = 0.0;
+  std::optional<double> DStar;  // none when Eta is 0
+  std::optional<double> FStar;
+  std::string DStarMark = "n.d.";  // the significance marks, padded to the report's column
+  std::string FStarMark = "n.d.";
   std::optional<HaplotypeStats> Haplotypes;  // when k is above 0
   std::optional<FsResult> Fs;
   FsFault FsFailure = FsFault::kNone;
   std::optional<FuLiWindows> Windows;
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Integer("region_from", RegionFrom);
+    v.Integer("region_to", RegionTo);
+    v.Integer("sequences", Sequences);
+    v.Bool("use_mutations", UseMutations);
+    v.Integer("net_sites", Totals.NetSites);
+    v.Integer("segregating_sites", Totals.SegSites);
+    v.Integer("mutations", Totals.TotalMutations);
+    v.Integer("eta", Totals.Eta);
+    v.Integer("eta_s", Totals.EtaS);
+    v.Number("k", Totals.K);
+    v.Number("pi", Pi);
+    v.Number("theta_k", ThetaK);
+    v.Number("theta_eta_s", ThetaEtaS);
+    v.Number("theta_eta", ThetaEta);
+    v.Optional("d_star", DStar);
+    v.Text("d_star_significance", MarkText(DStarMark));
+    v.Optional("f_star", FStar);
+    v.Text("f_star_significance", MarkText(FStarMark));
+    VisitHaplotypes(v, Haplotypes);
+    VisitFs(v, Fs);
+    v.Object("sliding_window", Windows);
+  }
 };
 
 // Over from..to of the first selection (filled, at least two sequences); along `window` when

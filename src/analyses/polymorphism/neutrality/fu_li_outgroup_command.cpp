@@ -1,7 +1,6 @@
 #include "analyses/polymorphism/neutrality/fu_li_outgroup_command.h"
 
 #include "analyses/polymorphism/neutrality/fu_li_outgroup_compute.h"
-#include "analyses/polymorphism/neutrality/fu_li_outgroup_json.h"
 #include "analyses/polymorphism/neutrality/fu_li_outgroup_report.h"
 #include "analyses/polymorphism/neutrality/neutrality_command_steps.h"
 #include "analyses/polymorphism/neutrality/neutrality_failure.h"
@@ -43,7 +42,7 @@ CommandReport Report(const FuLiOutgroupResult& result, const Selection& sel,
         [&windows] {
           std::vector<std::vector<std::string>> rows;
           for (const FuLiOutgroupWindow& row : windows.Rows)
-            rows.push_back(FuLiOutgroupGridRow(row, windows.Sequences));
+            rows.push_back(FuLiOutgroupGridRow(row));
           return rows;
         },
         [&windows] { return FuLiOutgroupGraph(windows); });
@@ -63,11 +62,6 @@ std::shared_ptr<const CommandBinding> FuLiOutgroupBinding() {
   parts.Compute = Compute;
   parts.Report = Report;
   parts.JsonName = "Fu and Li's Tests with an Outgroup";
-  parts.Json = [](const FuLiOutgroupResult& result) {
-    JsonText json;
-    WriteJson(json, result);
-    return json.Text();
-  };
   return MakeAnalysis(std::move(parts));
 }
 

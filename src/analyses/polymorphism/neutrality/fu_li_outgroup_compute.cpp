@@ -29,15 +29,18 @@ FuLiOutgroupResult ComputeFuLiOutgroupTest(const Selection& sel, int32_t from, i
     result.ThetaK = t.K;
     result.ThetaEtaE = t.EtaE;
     result.ThetaEta = t.Eta / c.a1;
-    result.Determined = t.Eta > 0;
-    result.D = FuLiDValue(t.Eta, t.EtaE, c.a1, c.uD, c.vD);
-    result.F = FuLiFValue(t.K, t.Eta, t.EtaE, c.uF, c.vF);
+    if (t.Eta > 0) {
+      result.D = FuLiDValue(t.Eta, t.EtaE, c.a1, c.uD, c.vD);
+      result.F = FuLiFValue(t.K, t.Eta, t.EtaE, c.uF, c.vF);
+      result.DMark = SignificanceFuLi(*result.D, FuLiTable::kD, n);
+      result.FMark = SignificanceFuLi(*result.F, FuLiTable::kF, n);
+    }
     return result;
   });
   if (status) status("Computing Fay and Wu's statistic...");
   r.FayWu =
       GuardFault(kFayWuFault, false, [&] { return FayWuH(r.Totals.DerivedSpectrum, r.Sequences); });
-  if (window && r.Determined) {
+  if (window && r.D) {
     r.Windows = GuardFault(kFuLiOutgroupWindowFault, true, [&] {
       return ComputeFuLiOutgroupWindows(tallies, *window, r.Sequences, use_mutations, gauge);
     });

@@ -3,7 +3,7 @@
 // first selection is the intraspecific data, the second the outgroup whose nucleotide is taken as
 // the ancestral state. Counts over the used sites (see neutrality_sites.h): S, Eta, the mutations
 // on external branches Eta(e) and the singletons Eta(s), k and Pi, the estimates of theta, D, F
-// and H; along a sliding window on request. With Eta of 0, D and F are not determined (NaN).
+// and H; along a sliding window on request. With Eta of 0, D and F are not determined.
 
 #include <cstdint>
 #include <functional>
@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "analyses/polymorphism/common/poly_gauge.h"
+#include "analyses/polymorphism/neutrality/neutrality_significance.h"
 #include "analyses/polymorphism/neutrality/neutrality_totals.h"
 #include "analyses/polymorphism/neutrality/neutrality_windows.h"
 #include "analyses/polymorphism/windows/sliding_window.h"
@@ -34,11 +35,41 @@ struct FuLiOutgroupResult {
   double ThetaEtaE = 0.0;  // Eta(e)
   double ThetaEta = 0.0;   // Eta / a1
   FuLiCoefficients Coefficients;
-  bool Determined = false;  // Eta above 0
-  double D = 0.0;
-  double F = 0.0;
+  std::optional<double> D;  // none when Eta is 0
+  std::optional<double> F;
+  std::string DMark = "n.d.";  // the significance marks, padded to the report's column
+  std::string FMark = "n.d.";
   FayWuResult FayWu;
   std::optional<FuLiOutgroupWindows> Windows;
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Integer("region_from", RegionFrom);
+    v.Integer("region_to", RegionTo);
+    v.Integer("sequences", Sequences);
+    v.Integer("outgroup_sequences", OutgroupSequences);
+    v.Bool("use_mutations", UseMutations);
+    v.Integer("net_sites", Totals.NetSites);
+    v.Integer("segregating_sites", Totals.SegSites);
+    v.Integers("ambiguous_sites", AmbiguousSites);
+    v.Integer("mutations", Totals.TotalMutations);
+    v.Integer("eta", Totals.Eta);
+    v.Integer("eta_e", Totals.EtaE);
+    v.Integer("eta_s", Totals.EtaS);
+    v.Number("k", Totals.K);
+    v.Number("pi", Pi);
+    v.Number("theta_k", ThetaK);
+    v.Number("theta_eta_e", ThetaEtaE);
+    v.Number("theta_eta", ThetaEta);
+    v.Optional("fu_li_d", D);
+    v.Text("fu_li_d_significance", MarkText(DMark));
+    v.Optional("fu_li_f", F);
+    v.Text("fu_li_f_significance", MarkText(FMark));
+    v.Number("theta_h", FayWu.ThetaH);
+    v.Number("theta_pi", FayWu.ThetaPi);
+    v.Number("fay_wu_h", FayWu.H);
+    v.Object("sliding_window", Windows);
+  }
 };
 
 // Over from..to of the first selection (classes and diversities filled, three or more

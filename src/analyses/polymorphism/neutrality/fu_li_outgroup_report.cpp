@@ -19,14 +19,18 @@ std::string SetName(const Selection& sel, int16_t set) {
   return sel.data().SequenceSets[static_cast<size_t>(set)].nombre();
 }
 
-std::string Words(double value, FuLiTable table, int32_t n) {
-  return SignificanceWords(SignificanceFuLi(value, table, n), MarkFamily::kFuLi);
+std::string Words(const std::string& mark) {
+  return SignificanceWords(mark, MarkFamily::kFuLi);
+}
+
+// A statistic that is not determined prints as "n.d.".
+std::string Statistic(const std::optional<double>& value) {
+  return value ? Format(*value, "0.00000") : "n.d.";
 }
 
 bool AnyNotDetermined(const FuLiOutgroupWindows& windows) {
   for (const FuLiOutgroupWindow& row : windows.Rows) {
-    if (!row.Determined || SignificanceFuLi(row.D, FuLiTable::kD, windows.Sequences) == "n.d.")
-      return true;
+    if (!row.D || row.DMark == "n.d.") return true;
   }
   return false;
 }
@@ -55,7 +59,6 @@ std::string FuLiOutgroupHead(const Selection& sel, const FuLiOutgroupResult& r) 
 
 std::string FuLiOutgroupReportBody(const FuLiOutgroupResult& r) {
   const NeutralityTotals& c = r.Totals;
-  const int32_t n = r.Sequences;
   std::string t;
   t += Line(" Number of positions with ambiguous information in outgroup: ",
             StrNum(static_cast<int64_t>(r.AmbiguousSites.size())));
@@ -82,10 +85,10 @@ std::string FuLiOutgroupReportBody(const FuLiOutgroupResult& r) {
   t += Line(r.UseMutations ? " Theta estimated from Eta: " : " Theta estimated from S: ",
             Format(r.ThetaEta, "0.000"));
   t += kCrLf;
-  t += Line(" Fu and Li's D test statistic, FL-D: ", Format(r.D, "0.00000"));
-  t += Line("     Statistical significance: ", Words(r.D, FuLiTable::kD, n));
-  t += Line(" Fu and Li's F test statistic, FL-F: ", Format(r.F, "0.00000"));
-  t += Line("     Statistical significance: ", Words(r.F, FuLiTable::kF, n));
+  t += Line(" Fu and Li's D test statistic, FL-D: ", Statistic(r.D));
+  t += Line("     Statistical significance: ", Words(r.DMark));
+  t += Line(" Fu and Li's F test statistic, FL-F: ", Statistic(r.F));
+  t += Line("     Statistical significance: ", Words(r.FMark));
   t += Line(" Fay and Wu's H test statistic, FW-H: ", Format(r.FayWu.H, "0.00000"));
   t += kCrLf;
   t += CalculationLine(r.UseMutations) + kCrLf;

@@ -15,15 +15,13 @@ std::string Line(const std::string& label, const std::string& value) {
   return label + value + kCrLf;
 }
 
-std::string Words(double value, FuLiTable table, int32_t n) {
-  return SignificanceWords(SignificanceFuLi(value, table, n), MarkFamily::kFuLi);
+std::string Words(const std::string& mark) {
+  return SignificanceWords(mark, MarkFamily::kFuLi);
 }
 
 bool AnyNotDetermined(const FuLiWindows& windows) {
   for (const FuLiWindow& row : windows.Rows) {
-    if (!row.Determined ||
-        SignificanceFuLi(row.DStar, FuLiTable::kDStar, windows.Sequences) == "n.d.")
-      return true;
+    if (!row.DStar || row.DStarMark == "n.d.") return true;
   }
   return false;
 }
@@ -42,7 +40,6 @@ std::string FsLines(const FsResult& fs, int32_t haplotypes) {
 std::string FuLiReportBody(const FuLiTestResult& r) {
   const NeutralityTotals& c = r.Totals;
   if (c.SegSites == 0) return std::string(kNoPolymorphismsLine) + kCrLf;
-  const int32_t n = r.Sequences;
   std::string t;
   t += Line(" Number of polymorphic (segregating) sites, S: ", StrNum(c.SegSites));
   t += Line(" Total number of mutations, Eta: ", Format(c.TotalMutations, "0"));
@@ -58,10 +55,10 @@ std::string FuLiReportBody(const FuLiTestResult& r) {
   t += Line(r.UseMutations ? " Theta estimated from Eta: " : " Theta estimated from S: ",
             Format(r.ThetaEta, "0.000"));
   t += kCrLf;
-  t += Line(" Fu and Li's D* test statistic: ", Format(r.DStar, "0.00000"));
-  t += Line("     Statistical significance: ", Words(r.DStar, FuLiTable::kDStar, n));
-  t += Line(" Fu and Li's F* test statistic: ", Format(r.FStar, "0.00000"));
-  t += Line("     Statistical significance: ", Words(r.FStar, FuLiTable::kFStar, n));
+  t += Line(" Fu and Li's D* test statistic: ", Format(r.DStar.value_or(0.0), "0.00000"));
+  t += Line("     Statistical significance: ", Words(r.DStarMark));
+  t += Line(" Fu and Li's F* test statistic: ", Format(r.FStar.value_or(0.0), "0.00000"));
+  t += Line("     Statistical significance: ", Words(r.FStarMark));
   t += kCrLf;
   t += CalculationLine(r.UseMutations) + kCrLf;
   if (r.Haplotypes) {

@@ -90,21 +90,21 @@ std::vector<std::string> FuLiGridTitles() {
   return {"Window", "Midpoint", "D*", "Sign", "F*", "Sign"};
 }
 
-std::vector<std::string> FuLiGridRow(const FuLiWindow& row, int32_t n) {
+std::vector<std::string> FuLiGridRow(const FuLiWindow& row) {
   std::vector<std::string> cells = Leading(row.Window);
-  if (!row.Determined) {
+  if (!row.DStar || !row.FStar) {
     cells.insert(cells.end(), {kNotDetermined, kNotDetermined, kNotDetermined, kNotDetermined});
     return cells;
   }
   cells.insert(cells.end(),
-               {SignedCell(row.DStar), SignificanceFuLi(row.DStar, FuLiTable::kDStar, n),
-                SignedCell(row.FStar), SignificanceFuLi(row.FStar, FuLiTable::kFStar, n)});
+               {SignedCell(*row.DStar), row.DStarMark, SignedCell(*row.FStar), row.FStarMark});
   return cells;
 }
 
 GraphData FuLiGraph(const FuLiWindows& windows) {
   GraphData graph = Graph(windows, kGraphFuLi, [](const FuLiWindow& w) {
-    return w.Determined ? std::vector<double>{w.DStar, w.FStar} : std::vector<double>{0.0, 0.0};
+    return w.DStar && w.FStar ? std::vector<double>{*w.DStar, *w.FStar}
+                              : std::vector<double>{0.0, 0.0};
   });
   AddFuLiBound(graph, 2, FuLiTable::kDStar, windows.Sequences);
   AddFuLiBound(graph, 3, FuLiTable::kFStar, windows.Sequences);
@@ -115,13 +115,12 @@ std::vector<std::string> FuLiOutgroupGridTitles() {
   return {"Window", "Midpoint", "FL-D", "Sign", "FL-F", "Sign", "FW-H"};
 }
 
-std::vector<std::string> FuLiOutgroupGridRow(const FuLiOutgroupWindow& row, int32_t n) {
+std::vector<std::string> FuLiOutgroupGridRow(const FuLiOutgroupWindow& row) {
   std::vector<std::string> cells = Leading(row.Window);
-  if (!row.Determined) {
+  if (!row.D || !row.F) {
     cells.insert(cells.end(), {kNotDetermined, kNotDetermined, kNotDetermined, kNotDetermined});
   } else {
-    cells.insert(cells.end(), {SignedCell(row.D), SignificanceFuLi(row.D, FuLiTable::kD, n),
-                               SignedCell(row.F), SignificanceFuLi(row.F, FuLiTable::kF, n)});
+    cells.insert(cells.end(), {SignedCell(*row.D), row.DMark, SignedCell(*row.F), row.FMark});
   }
   cells.push_back(SignedCell(row.FayWu.H));
   return cells;
@@ -129,8 +128,8 @@ std::vector<std::string> FuLiOutgroupGridRow(const FuLiOutgroupWindow& row, int3
 
 GraphData FuLiOutgroupGraph(const FuLiOutgroupWindows& windows) {
   return Graph(windows, kGraphFuLiOutgroup, [](const FuLiOutgroupWindow& w) {
-    return w.Determined ? std::vector<double>{w.D, w.F, w.FayWu.H}
-                        : std::vector<double>{0.0, 0.0, w.FayWu.H};
+    return w.D && w.F ? std::vector<double>{*w.D, *w.F, w.FayWu.H}
+                      : std::vector<double>{0.0, 0.0, w.FayWu.H};
   });
 }
 

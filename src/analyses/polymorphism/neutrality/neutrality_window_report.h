@@ -22,12 +22,11 @@ namespace ovelt {
 [[nodiscard]] std::string TajimaWindowLegend();
 
 [[nodiscard]] std::vector<std::string> FuLiGridTitles();
-[[nodiscard]] std::vector<std::string> FuLiGridRow(const FuLiWindow& row, int32_t n);
+[[nodiscard]] std::vector<std::string> FuLiGridRow(const FuLiWindow& row);
 [[nodiscard]] GraphData FuLiGraph(const FuLiWindows& windows);
 
 [[nodiscard]] std::vector<std::string> FuLiOutgroupGridTitles();
-[[nodiscard]] std::vector<std::string> FuLiOutgroupGridRow(const FuLiOutgroupWindow& row,
-                                                           int32_t n);
+[[nodiscard]] std::vector<std::string> FuLiOutgroupGridRow(const FuLiOutgroupWindow& row);
 [[nodiscard]] GraphData FuLiOutgroupGraph(const FuLiOutgroupWindows& windows);
 
 // The legend of Fu and Li's marks: with "n.d., not determined" when some window of the table

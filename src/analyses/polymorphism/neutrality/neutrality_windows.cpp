@@ -1,7 +1,6 @@
 #include "analyses/polymorphism/neutrality/neutrality_windows.h"
 
 #include "analyses/polymorphism/neutrality/neutrality_significance.h"
-
 #include "analyses/polymorphism/neutrality/neutrality_totals.h"
 #include "stats/fu_li_statistics.h"
 #include "stats/tajima_d.h"
@@ -54,10 +53,11 @@ FuLiWindows ComputeFuLiWindows(const SiteTallies& tallies, const SlidingWindowSp
                              row.Eta = t.Eta;
                              row.EtaS = t.EtaS;
                              row.K = t.K;
-                             row.Determined = t.Eta > 0;
-                             if (!row.Determined) return;
+                             if (t.Eta <= 0) return;
                              row.DStar = FuLiDStarValue(t.Eta, t.EtaS, c.a1, c.uD, c.vD, n);
                              row.FStar = FuLiFStarValue(t.K, t.Eta, t.EtaS, c.uF, c.vF, n);
+                             row.DStarMark = SignificanceFuLi(*row.DStar, FuLiTable::kDStar, n);
+                             row.FStarMark = SignificanceFuLi(*row.FStar, FuLiTable::kFStar, n);
                            });
 }
 
@@ -71,10 +71,11 @@ FuLiOutgroupWindows ComputeFuLiOutgroupWindows(const SiteTallies& tallies,
                                      row.EtaE = t.EtaE;
                                      row.K = t.K;
                                      row.FayWu = FayWuH(t.DerivedSpectrum, n);
-                                     row.Determined = t.Eta > 0;
-                                     if (!row.Determined) return;
+                                     if (t.Eta <= 0) return;
                                      row.D = FuLiDValue(t.Eta, t.EtaE, c.a1, c.uD, c.vD);
                                      row.F = FuLiFValue(t.K, t.Eta, t.EtaE, c.uF, c.vF);
+                                     row.DMark = SignificanceFuLi(*row.D, FuLiTable::kD, n);
+                                     row.FMark = SignificanceFuLi(*row.F, FuLiTable::kF, n);
                                    });
 }
 

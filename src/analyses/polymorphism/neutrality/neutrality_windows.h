@@ -2,7 +2,7 @@
 // The neutrality statistics along a sliding window: Tajima's D, Fu and Li's D* and F*, and with an
 // outgroup Fu and Li's D and F with Fay and Wu's H, each from the counts of the window's sites
 // with the sample size of the whole run. A window without segregating sites (mutations) has no
-// test statistic (`Determined` false); its H is 0.
+// test statistic (none, its mark "n.d."); its H is 0.
 
 #include <cstdint>
 #include <optional>
@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "analyses/polymorphism/common/poly_gauge.h"
+#include "analyses/polymorphism/neutrality/neutrality_significance.h"
 #include "analyses/polymorphism/neutrality/neutrality_sites.h"
 #include "analyses/polymorphism/windows/sliding_window.h"
 #include "stats/fay_wu_h.h"
@@ -38,9 +39,22 @@ struct FuLiWindow {
   int32_t Eta = 0;
   int32_t EtaS = 0;
   double K = 0.0;
-  bool Determined = false;
-  double DStar = 0.0;
-  double FStar = 0.0;
+  std::optional<double> DStar;  // none without mutations
+  std::optional<double> FStar;
+  std::string DStarMark = "n.d.";  // the marks for the run's sample size, padded to their column
+  std::string FStarMark = "n.d.";
+
+  template <class V>
+  void Visit(V& v) const {
+    Window.Visit(v);
+    v.Integer("eta", Eta);
+    v.Integer("eta_s", EtaS);
+    v.Number("k", K);
+    v.Optional("d_star", DStar);
+    v.Text("d_star_significance", MarkText(DStarMark));
+    v.Optional("f_star", FStar);
+    v.Text("f_star_significance", MarkText(FStarMark));
+  }
 };
 
 struct FuLiOutgroupWindow {
@@ -48,10 +62,24 @@ struct FuLiOutgroupWindow {
   int32_t Eta = 0;
   int32_t EtaE = 0;
   double K = 0.0;
-  bool Determined = false;
-  double D = 0.0;
-  double F = 0.0;
+  std::optional<double> D;  // none without mutations
+  std::optional<double> F;
+  std::string DMark = "n.d.";  // the marks for the run's sample size, padded to their column
+  std::string FMark = "n.d.";
   FayWuResult FayWu;
+
+  template <class V>
+  void Visit(V& v) const {
+    Window.Visit(v);
+    v.Integer("eta", Eta);
+    v.Integer("eta_e", EtaE);
+    v.Number("k", K);
+    v.Optional("fu_li_d", D);
+    v.Text("fu_li_d_significance", MarkText(DMark));
+    v.Optional("fu_li_f", F);
+    v.Text("fu_li_f_significance", MarkText(FMark));
+    v.Number("fay_wu_h", FayWu.H);
+  }
 };
 
 template <class Row>
