@@ -20,10 +20,10 @@ bool Has(const std::string& json, const std::string& member) {
 }
 
 SlidingWindowSpec Window(int32_t length, int32_t step) {
-  SlidingWindowSpec spec;
-  spec.WindowLength = length;
-  spec.StepSize = step;
-  return spec;
+  SlidingWindowSpec geometry;
+  geometry.WindowLength = length;
+  geometry.StepSize = step;
+  return geometry;
 }
 
 TEST(FuLiJson, KeysIntegersAndMarks) {

@@ -26,32 +26,16 @@ CommandReport Report(const FuLiTestResult& result, const Selection& sel, const N
   if (result.FsFailure == FsFault::kOther) report.Notices.push_back({kFsFault, MsgIcon::kWarning});
   report.Head = ReportHead(sel, result.Totals.NetSites);
   report.Body = FuLiReportBody(result);
-  if (result.Windows) {
-    const FuLiWindows& windows = *result.Windows;
-    AddWindowTable(
-        report, sel.data().FileName, FuLiGridTitles(),
-        [&windows] {
-          std::vector<std::vector<std::string>> rows;
-          for (const FuLiWindow& row : windows.Rows) rows.push_back(FuLiGridRow(row));
-          return rows;
-        },
-        [&windows] { return FuLiGraph(windows); });
-  }
+  if (result.Windows)
+    AddWindows(report, sel.data().FileName, FuLiGridTitles(), *result.Windows, FuLiGridRow,
+               FuLiGraph);
   return report;
 }
 
 }  // namespace
 
 std::shared_ptr<const CommandBinding> FuLiBinding() {
-  AnalysisParts<NeutralityOptions, FuLiTestResult> parts;
-  parts.Validate = [](const NeutralityOptions& options, const ActiveData& data) {
-    return ValidateNeutralityOptions(options, data.NumSites, data.GapsInWindow);
-  };
-  parts.BusyWords = [](const NeutralityOptions&) { return "Computing Haplotype Diversity..."; };
-  parts.Select = [](const ActiveData& data, const NeutralityOptions& options) {
-    return SelectOneSet(data, options.SelSet1,
-                        RunRegion(options.RegionFrom, options.RegionTo, data.NumSites));
-  };
+  auto parts = OneSetNeutralityParts<FuLiTestResult>();
   parts.Compute = Compute;
   parts.Report = Report;
   parts.JsonName = "Fu and Li's Tests";

@@ -36,16 +36,8 @@ CommandReport Report(const FuLiOutgroupResult& result, const Selection& sel,
   report.Head = FuLiOutgroupHead(sel, result);
   report.Body = FuLiOutgroupReportBody(result);
   if (result.Windows) {
-    const FuLiOutgroupWindows& windows = *result.Windows;
-    AddWindowTable(
-        report, sel.data().FileName, FuLiOutgroupGridTitles(),
-        [&windows] {
-          std::vector<std::vector<std::string>> rows;
-          for (const FuLiOutgroupWindow& row : windows.Rows)
-            rows.push_back(FuLiOutgroupGridRow(row));
-          return rows;
-        },
-        [&windows] { return FuLiOutgroupGraph(windows); });
+    AddWindows(report, sel.data().FileName, FuLiOutgroupGridTitles(), *result.Windows,
+               FuLiOutgroupGridRow, FuLiOutgroupGraph);
   }
   return report;
 }

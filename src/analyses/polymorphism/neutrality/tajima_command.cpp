@@ -24,32 +24,16 @@ CommandReport Report(const TajimaTestResult& result, const Selection& sel,
   report.Head = ReportHead(sel, result.Stats.NetSites);
   report.Body = TajimaReportBody(result);
   if (!result.D) report.Notices.push_back({kNoPolymorphismsTajima, MsgIcon::kInformation});
-  if (result.Windows) {
-    const TajimaWindows& windows = *result.Windows;
-    AddWindowTable(
-        report, sel.data().FileName, TajimaGridTitles(),
-        [&windows] {
-          std::vector<std::vector<std::string>> rows;
-          for (const TajimaWindow& row : windows.Rows) rows.push_back(TajimaGridRow(row));
-          return rows;
-        },
-        [&windows] { return TajimaGraph(windows); });
-  }
+  if (result.Windows)
+    AddWindows(report, sel.data().FileName, TajimaGridTitles(), *result.Windows, TajimaGridRow,
+               TajimaGraph);
   return report;
 }
 
 }  // namespace
 
 std::shared_ptr<const CommandBinding> TajimaBinding() {
-  AnalysisParts<NeutralityOptions, TajimaTestResult> parts;
-  parts.Validate = [](const NeutralityOptions& options, const ActiveData& data) {
-    return ValidateNeutralityOptions(options, data.NumSites, data.GapsInWindow);
-  };
-  parts.BusyWords = [](const NeutralityOptions&) { return "Computing Haplotype Diversity..."; };
-  parts.Select = [](const ActiveData& data, const NeutralityOptions& options) {
-    return SelectOneSet(data, options.SelSet1,
-                        RunRegion(options.RegionFrom, options.RegionTo, data.NumSites));
-  };
+  auto parts = OneSetNeutralityParts<TajimaTestResult>();
   parts.Compute = Compute;
   parts.Report = Report;
   parts.JsonName = "Tajima's Test";
