@@ -48,8 +48,14 @@ struct CommandFacts {
   std::string TwoSetsQuestion;
   // The titles, captions and table head of its output windows.
   ResultLabels Labels;
+  // The code of its result in the table of titles, for the two calculators whose code is not
+  // their number modulo 1000 (tests of independence 40, distributions 41); 0 otherwise.
+  int16_t ResultCodeOverride = 0;
 
   [[nodiscard]] int16_t Number() const { return ::ovelt::Number(Id); }
+  [[nodiscard]] int16_t ResultCode() const {
+    return ResultCodeOverride != 0 ? ResultCodeOverride : TitleCode(Id);
+  }
 };
 
 }  // namespace ovelt

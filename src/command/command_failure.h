@@ -19,9 +19,16 @@ enum class FailureKind { kRefused, kFailed, kTooBig };
 
 class CommandFailure : public std::runtime_error {
  public:
-  CommandFailure(FailureKind kind, const std::string& message, std::string reason = "")
-      : std::runtime_error(message), kind_(kind), reason_(std::move(reason)) {}
+  CommandFailure(FailureKind kind, const std::string& message, std::string reason = "",
+                 std::string title = "Ovelt")
+      : std::runtime_error(message),
+        kind_(kind),
+        reason_(std::move(reason)),
+        title_(std::move(title)) {}
   [[nodiscard]] FailureKind Kind() const { return kind_; }
+  // The title of the box: "Ovelt", but for the few refusals whose box names the fault itself
+  // (" Invalid Selection " over "This table can not be computed").
+  [[nodiscard]] const std::string& Title() const { return title_; }
   // Why, where the words of the box do not say it (" Invalid Selection "): the command line
   // prints it under the box; empty otherwise.
   [[nodiscard]] const std::string& Reason() const { return reason_; }
@@ -29,6 +36,7 @@ class CommandFailure : public std::runtime_error {
  private:
   FailureKind kind_;
   std::string reason_;
+  std::string title_;
 };
 
 [[noreturn]] inline void Refuse(const std::string& message, std::string reason = "") {
@@ -36,6 +44,9 @@ class CommandFailure : public std::runtime_error {
 }
 [[noreturn]] inline void Refuse(const SelectionRefusal& refusal) {
   throw CommandFailure(FailureKind::kRefused, refusal.Text, refusal.Reason);
+}
+[[noreturn]] inline void RefuseTitled(const std::string& message, const std::string& title) {
+  throw CommandFailure(FailureKind::kRefused, message, "", title);
 }
 [[noreturn]] inline void Fail(const std::string& message) {
   throw CommandFailure(FailureKind::kFailed, message);

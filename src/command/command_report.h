@@ -30,6 +30,9 @@ struct CommandReport {
     MsgIcon Icon = MsgIcon::kInformation;
   };
   std::vector<Notice> Notices;
+  // The status line once the result stands, for a result that names itself there; otherwise
+  // the idle words come back.
+  std::optional<std::string> Status;
 };
 
 }  // namespace ovelt

@@ -41,6 +41,9 @@ struct OptionField {
   std::string label;                            // the dialog's words
   std::string help;                             // one line for --help
   std::string invalid = " Invalid Selection ";  // what a value out of range gets
+  // The command line takes it as a plain argument, in the order declared, rather than a flag
+  // (the four cells of a 2 x 2 table).
+  bool positional = false;
 };
 
 // The members above as one interface, so that the faces and the runner can walk the options of

@@ -9,6 +9,8 @@
 #include "analyses/polymorphism/neutrality/tajima_command.h"
 #include "analyses/polymorphism/overview/overview_command.h"
 #include "analyses/polymorphism/size_changes/size_change_command.h"
+#include "coalescent/coalescent_command.h"
+#include "tools/independence_command.h"
 
 // Each entry names only the facts that differ from the defaults of CommandFacts.
 #pragma GCC diagnostic ignored "-Wmissing-field-initializers"
@@ -332,9 +334,12 @@ std::vector<CommandEntry> BuildRegistry() {
       .Dialog = "frmArbolDLL",
       .Menu = "Analysis",
       .CliName = "coalescent",
+      .Description =
+          "Coalescent simulations: confidence limits and the probability of a value not above "
+          "the observed one for a statistic under the neutral coalescent. Needs no data file",
       .Labels = {.Title = "Coalescent Simulations",
                  .SecondGridCaption = "Output: No. of Mutations and Sites (Intraspecific Data)"},
-  });
+  }, CoalescentBinding());
   add({
       .Id = CommandId::kHbk,
       .Title = "Shuttle to: HBK test",
@@ -574,9 +579,11 @@ std::vector<CommandEntry> BuildRegistry() {
       .Dialog = "Form12",
       .Menu = "Tools",
       .CliName = "independence",
+      .Description = "Fisher's exact test, chi-square and G tests of a 2 x 2 table a b / c d",
       .Labels = {.Title = "Tests of Independence",
                  .SecondGridCaption = "Output: No. of Mutations and Sites (Intraspecific Data)"},
-  });
+      .ResultCodeOverride = 40,
+  }, IndependenceBinding());
   add({
       .Id = CommandId::kDistributions,
       .Title = "Discrete Distributions",
@@ -589,6 +596,7 @@ std::vector<CommandEntry> BuildRegistry() {
       .CliName = "distributions",
       .Labels = {.Title = "Discrete Distributions",
                  .SecondGridCaption = "Output: No. of Mutations and Sites (Intraspecific Data)"},
+      .ResultCodeOverride = 41,
   });
   return entries;
 }

@@ -19,7 +19,7 @@ void Stop(OutputChannel& channel, Platform& ui, const CommandFailure& failure) {
   switch (failure.Kind()) {
     case FailureKind::kRefused:
       channel.SetBusy(false);
-      ui.MessageBox(failure.what(), MsgIcon::kWarning);
+      ui.MessageBox(failure.what(), MsgIcon::kWarning, MsgButtons::kOk, failure.Title());
       ui.ExplainRefusal(failure.Reason());
       channel.ReopenDialog = 1;
       break;
@@ -37,7 +37,7 @@ void Stop(OutputChannel& channel, Platform& ui, const CommandFailure& failure) {
 }
 
 void Show(OutputChannel& channel, Platform& ui, const CommandFacts& facts, CommandReport report) {
-  channel.ResultCode = TitleCode(facts.Id);
+  channel.ResultCode = facts.ResultCode();
   channel.Labels = facts.Labels;
   channel.HeaderBlock = report.Head;
   channel.AppendText(report.Head + report.Body);
@@ -49,6 +49,7 @@ void Show(OutputChannel& channel, Platform& ui, const CommandFacts& facts, Comma
   if (report.Graph) channel.SetGraph(std::move(*report.Graph));
   for (const int kind : report.ShowKinds) channel.ShowResult(kind);
   channel.SetBusy(false);
+  if (report.Status) channel.SetStatus(*report.Status);
 }
 
 }  // namespace
@@ -88,12 +89,14 @@ RunOutcome RunCommand(ActiveData* data, OutputChannel& channel, Platform& ui,
   }
   Show(channel, ui, entry.Facts, std::move(product.Report));
   channel.Used = product.Used;
-  if (data != nullptr) {
+  // A calculator's run leaves the open file's region and result as they were.
+  if (data != nullptr && entry.Binding->NeedsData()) {
     data->ResultCode = channel.ResultCode;
     data->Region = product.Region;
   }
   outcome.Stands = true;
   outcome.Json = std::move(product.Json);
+  outcome.Result = std::move(product.Result);
   return outcome;
 }
 

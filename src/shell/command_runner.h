@@ -4,6 +4,7 @@
 // the region of the run. Every failure takes the same road: the message is shown, the flags of
 // the channel say what became of the run, and the active data is as it was before.
 
+#include <any>
 #include <string>
 
 #include "command/command_entry.h"
@@ -19,6 +20,7 @@ struct ActiveData;
 struct RunOutcome {
   bool Stands = false;  // the result is in the output channel
   std::string Json;     // the result as JSON, when it was asked for
+  std::any Result;      // the result, when the binding hands it to the face (CommandProduct)
 };
 
 // `want_json` asks for the JSON of the result as well.

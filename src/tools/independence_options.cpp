@@ -2,6 +2,6 @@
 
 namespace ovelt {
 
-IndependenceOptions F12DefectValues() { return {"12", "5", "3", "10"}; }
+IndependenceOptions F12DefectValues() { return {}; }
 
 }  // namespace ovelt

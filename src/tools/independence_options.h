@@ -15,17 +15,18 @@ inline constexpr int16_t kIndependenceResultCode = 40;
 inline constexpr const char* kIndependenceCaption = "Tests of Independence";
 
 struct IndependenceOptions {
-  std::string A;
-  std::string B;
-  std::string C;
-  std::string D;
+  std::string A = "12";
+  std::string B = "5";
+  std::string C = "3";
+  std::string D = "10";
 
+  // The command line takes the cells in reading order: `independence A B C D`.
   template <class V>
   void Visit(V& v) {
-    v.Text(A, {"a", "a:", "First row, first column"});
-    v.Text(B, {"b", "b:", "First row, second column"});
-    v.Text(C, {"c", "c:", "Second row, first column"});
-    v.Text(D, {"d", "d:", "Second row, second column"});
+    v.Text(A, {"a", "a:", "First row, first column", " Invalid Selection ", true});
+    v.Text(B, {"b", "b:", "First row, second column", " Invalid Selection ", true});
+    v.Text(C, {"c", "c:", "Second row, first column", " Invalid Selection ", true});
+    v.Text(D, {"d", "d:", "Second row, second column", " Invalid Selection ", true});
   }
 };
 

@@ -1,35 +1,71 @@
 #pragma once
-// A run of "Tests of Independence" once its dialog was confirmed: the checks of the typed
-// table, the tests, and the report left in the output channel as a text result (so that it is
-// saved, printed and copied to the session file as any other).
-//
-// A refusal computes nothing, leaves the previous output as it stands and sets `ReopenDialog`;
-// the caller shows the returned message in its box.
+// A run of "Tests of Independence": the typed 2 x 2 table and its tests, with the JSON fields of
+// the result. The run needs no data file; its report is a text result that is saved, printed
+// and copied to the session file as any other.
 
-#include <optional>
+#include <string_view>
 
-#include "output/json_text.h"
-#include "output/output_channel.h"
-#include "tools/independence_options.h"
+#include "stats/marks.h"
 #include "tools/independence_tests.h"
-#include "tools/tool_message.h"
 #include "tools/two_by_two_table.h"
 
 namespace ovelt {
 
 inline constexpr const char* kIndependenceStatus = "Computing Independence Tests...";
 
+// One test in the JSON: its value, its P value and the mark of the P value.
+struct IndependenceTestFields {
+  double Value = 0.0;
+  double P = 0.0;
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Number("value", Value);
+    v.Number("p", P);
+    v.Text("mark", PMarkText(P));
+  }
+};
+
+struct FisherFields {
+  double OneTail = 0.0;
+  double TwoTail = 0.0;
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Number("one_tailed", OneTail);
+    v.Text("one_tailed_mark", PMarkText(OneTail));
+    v.Number("two_tailed", TwoTail);
+    v.Text("two_tailed_mark", PMarkText(TwoTail));
+  }
+};
+
+struct TableFields {
+  const TwoByTwoTable& Table;
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Integer("a", Table.a);
+    v.Integer("b", Table.b);
+    v.Integer("c", Table.c);
+    v.Integer("d", Table.d);
+  }
+};
+
 struct IndependenceRun {
   TwoByTwoTable Table;
   IndependenceResult Result;
+
+  template <class V>
+  void Visit(V& v) const {
+    const IndependenceResult& r = Result;
+    v.Object("table", TableFields{Table});
+    v.Object("fisher", FisherFields{r.FisherOneTail, r.FisherTwoTail});
+    v.Object("chi_square", IndependenceTestFields{r.ChiSquare, r.ChiSquareP});
+    v.Object("chi_square_yates", IndependenceTestFields{r.ChiSquareYates, r.ChiSquareYatesP});
+    v.Object("g", IndependenceTestFields{r.G, r.GP});
+    v.Object("g_williams", IndependenceTestFields{r.GWilliams, r.GWilliamsP});
+    v.Object("g_yates", IndependenceTestFields{r.GYates, r.GYatesP});
+  }
 };
-
-// nullopt when the result stands in `channel`; `run` (optional) receives the table and result.
-[[nodiscard]] std::optional<ToolMessage> RunIndependence(OutputChannel& channel,
-                                                         const IndependenceOptions& options,
-                                                         IndependenceRun* run = nullptr);
-
-// The table and the tests as one JSON object, each P value with its mark.
-void WriteJson(JsonText& json, const IndependenceRun& run);
 
 }  // namespace ovelt

@@ -74,18 +74,25 @@ TEST(CoalescentCli, RefusalsUseTheDialogsWords) {
   EXPECT_EQ(r.status, 1);
   EXPECT_NE(r.err.find("Theta must be higher than 0"), std::string::npos) << r.err;
   EXPECT_EQ(r.out, "");
-  const auto both = RunOvelt(Args({"--theta", "3", "--segsites", "4"}), home.Path().string());
-  EXPECT_EQ(both.status, 2);
   const auto unknown = RunOvelt(Args({"--statistic", "nope"}), home.Path().string());
-  EXPECT_EQ(unknown.status, 2);
-  EXPECT_NE(unknown.err.find("tajima-d"), std::string::npos);
+  EXPECT_EQ(unknown.status, 1);
+  EXPECT_NE(unknown.err.find("Unknown statistic \"nope\"; the statistics are: hd, h, pi"),
+            std::string::npos)
+      << unknown.err;
+}
+
+TEST(CoalescentCli, TypingSegregatingSitesRunsWithThemInsteadOfTheta) {
+  TempDir home;
+  const auto both = RunOvelt(Args({"--theta", "3", "--segsites", "4"}), home.Path().string());
+  ASSERT_EQ(both.status, 0) << both.err;
+  EXPECT_NE(both.out.find("   Number of Segregating Sites: 4\n"), std::string::npos) << both.out;
 }
 
 TEST(CoalescentCli, JsonToStandardOutput) {
   TempDir home;
   const auto r = RunOvelt(Args({"--json", "-", "--statistic", "hd"}), home.Path().string());
   ASSERT_EQ(r.status, 0) << r.err;
-  EXPECT_EQ(r.out.rfind("{\"input\":", 0), 0u) << r.out;
+  EXPECT_EQ(r.out.rfind("{\"analysis\":\"Coalescent Simulations\",\"theta\":12,", 0), 0u) << r.out;
   EXPECT_NE(r.out.find("\"statistic\":\"hd\""), std::string::npos);
   EXPECT_NE(r.out.find("\"effective_replicates\":300"), std::string::npos);
 }

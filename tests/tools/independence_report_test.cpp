@@ -4,16 +4,11 @@
 
 #include <string>
 
-#include "output/output_channel.h"
-#include "support/scripted_platform.h"
-#include "support/temp_dir.h"
+#include "command/result_json.h"
 #include "tools/independence_run.h"
 
 namespace ovelt {
 namespace {
-
-using testing::ScriptedPlatform;
-using testing::TempDir;
 
 // (3 1 / 1 3), worked by hand: Fisher 17/70 = 0.242857 and 34/70 = 0.485714; chi-square 2 with
 // P = erfc(1) = 0.157299, Yates 0.5 with P = erfc(0.5) = 0.479500; G = 12 ln 3 - 16 ln 2 =
@@ -66,63 +61,17 @@ TEST(IndependenceReport, WideCellsWidenTheirColumns) {
   EXPECT_NE(text.find("\r\n  12345     1\r\n      1 12345\r\n"), std::string::npos) << text;
 }
 
-TEST(IndependenceRun, TheResultStandsInTheChannel) {
-  ScriptedPlatform platform;
-  OutputChannel channel(platform);
-  IndependenceRun run;
-  EXPECT_FALSE(RunIndependence(channel, {"3", "1", "1", "3"}, &run));
-  EXPECT_EQ(run.Table, (TwoByTwoTable{3, 1, 1, 3}));
-  EXPECT_EQ(channel.TextBuffer, kSymmetricReport);
-  EXPECT_EQ(channel.ResultCode, 40);
-  EXPECT_EQ(channel.TextShown, 1);
-  EXPECT_EQ(channel.ReopenDialog, 0);
-  EXPECT_TRUE(channel.Commands().SaveEnabled);
-  EXPECT_EQ(platform.StatusTexts.front(), "Computing Independence Tests...");
-  EXPECT_EQ(channel.StatusText(), "For Help, press F1");
-  EXPECT_TRUE(platform.Boxes.empty());
-}
-
-TEST(IndependenceRun, ARefusalKeepsThePreviousResultAndTheDialog) {
-  ScriptedPlatform platform;
-  OutputChannel channel(platform);
-  ASSERT_FALSE(RunIndependence(channel, {"3", "1", "1", "3"}));
-  const auto refusal = RunIndependence(channel, {"3", "", "1", "3"});
-  ASSERT_TRUE(refusal);
-  EXPECT_EQ(*refusal, (ToolMessage{"Missing data", " Invalid Selection "}));
-  EXPECT_EQ(channel.ReopenDialog, 1);
-  EXPECT_EQ(channel.TextBuffer, kSymmetricReport);
-}
-
-TEST(IndependenceRun, SavedAndSessionFilesHoldTheReport) {
-  TempDir dir;
-  ScriptedPlatform platform;
-  const std::string session = dir.File("session.out");
-  {
-    OutputChannel channel(platform);
-    ASSERT_TRUE(channel.SendAllOutput(session));
-    ASSERT_FALSE(RunIndependence(channel, {"3", "1", "1", "3"}));
-    const std::string saved = dir.File("saved.out");
-    ASSERT_TRUE(channel.SaveCurrentOutput(saved));
-    const std::string title_block = std::string("Tests of Independence \r\n") + " " +
-                                    std::string(21, '-') + "\r\n" + kSymmetricReport + "\r\n";
-    EXPECT_NE(testing::ReadBytes(saved).find(title_block), std::string::npos);
-    // The session file takes its place when the session closes.
-    ASSERT_TRUE(channel.CloseSessionFile());
-    EXPECT_NE(
-        testing::ReadBytes(session).find(title_block + std::string(38, '<') + std::string(38, '>')),
-        std::string::npos)
-        << testing::ReadBytes(session);
-  }
-}
-
 TEST(IndependenceRun, JsonHasEveryTest) {
-  IndependenceRun run{{3, 1, 1, 3}, ComputeIndependence({3, 1, 1, 3})};
-  JsonText json;
-  WriteJson(json, run);
-  EXPECT_NE(json.Text().find("\"table\":{\"a\":3,\"b\":1,\"c\":1,\"d\":3}"), std::string::npos)
-      << json.Text();
-  EXPECT_NE(json.Text().find("\"chi_square\":{\"value\":2,"), std::string::npos) << json.Text();
-  EXPECT_NE(json.Text().find("\"g_yates\":{"), std::string::npos);
+  const IndependenceRun run{{3, 1, 1, 3}, ComputeIndependence({3, 1, 1, 3})};
+  const std::string json = ResultJson("Tests of Independence", run);
+  EXPECT_EQ(json.rfind("{\"analysis\":\"Tests of Independence\",\"table\":{\"a\":3,\"b\":1,"
+                       "\"c\":1,\"d\":3},\"fisher\":{\"one_tailed\":0.2428571428571",
+                       0),
+            0u)
+      << json;
+  EXPECT_NE(json.find("\"chi_square\":{\"value\":2,\"p\":0.157299"), std::string::npos) << json;
+  EXPECT_NE(json.find("\"mark\":\"  (not significant)\""), std::string::npos) << json;
+  EXPECT_NE(json.find("\"g_yates\":{"), std::string::npos);
 }
 
 }  // namespace

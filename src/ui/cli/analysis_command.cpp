@@ -11,40 +11,63 @@
 #include "ui/cli/console_platform.h"
 #include "ui/cli/file_job.h"
 #include "ui/cli/option_flags.h"
+#include "ui/cli/output_options.h"
 
 namespace ovelt {
 
 namespace {
 
+struct CommandState {
+  FileJob job;
+  std::unique_ptr<CommandOptions> options;
+  PendingOptionFlags pending;
+  std::string json;
+};
+
+// The run and its outputs, once the workbench holds the data (or needs none).
+int RunAndFinish(CommandState& state, const CommandEntry& entry, Workbench& wb,
+                 ConsolePlatform& platform, const CliStreams& s) {
+  // The gate of the menus and the checks before the dialog concern the open file; a command
+  // that needs none runs without them.
+  const bool needs_data = entry.Binding->NeedsData();
+  if (needs_data && !wb.BeginCommand(entry.Facts.Number())) return kCliRefused;
+  // What the dialog would say as the options were picked, said before the run.
+  for (const std::string& notice : entry.Binding->ChoiceNotices(*state.options))
+    platform.MessageBox(notice, MsgIcon::kInformation, MsgButtons::kOk, "Ovelt", false);
+  const RunOutcome outcome = RunCommand(wb, entry, *state.options, !state.json.empty());
+  if (needs_data) wb.EndCommand();
+  if (!outcome.Stands) return kCliRefused;
+  if (!state.json.empty() && !WriteJsonFile(state.json, outcome.Json, platform, s.out))
+    return kCliRefused;
+  const bool text_out = state.json != "-";
+  return FinishOutput(state.job.output, wb, "", s.out, text_out) ? kCliDone : kCliRefused;
+}
+
 void AddAnalysisCommand(CliRegistry& registry, const CommandEntry& entry) {
-  struct State {
-    FileJob job;
-    std::unique_ptr<CommandOptions> options;
-    PendingOptionFlags pending;
-    std::string json;
-  };
   const CommandFacts& facts = entry.Facts;
-  auto& state = registry.Keep<State>();
+  auto& state = registry.Keep<CommandState>();
   state.options = entry.Binding->NewOptions();
+  const bool needs_data = entry.Binding->NeedsData();
   CLI::App& app = registry.Add(
       facts.CliName,
       facts.Description + " (command " + std::to_string(facts.Number()) + ", \"" + facts.Title +
           "\")",
-      [&state, &entry](const CliStreams& s) {
+      [&state, &entry, needs_data](const CliStreams& s) {
         ConsolePlatform platform(s.err);
         Workbench wb(platform);
-        if (!OpenJob(state.job, wb, platform, s.err)) return kCliRefused;
-        if (!ResolveOptionFlags(state.pending, wb)) return kCliRefused;
-        if (!wb.BeginCommand(entry.Facts.Number())) return kCliRefused;
-        const RunOutcome outcome = RunCommand(wb, entry, *state.options, !state.json.empty());
-        wb.EndCommand();
-        if (!outcome.Stands) return kCliRefused;
-        if (!state.json.empty() && !WriteJsonFile(state.json, outcome.Json, platform, s.out))
+        if (needs_data) {
+          if (!OpenJob(state.job, wb, platform, s.err)) return kCliRefused;
+          if (!ResolveOptionFlags(state.pending, wb)) return kCliRefused;
+        } else if (!BeginSession(state.job.output, wb, platform)) {
           return kCliRefused;
-        const bool text_out = state.json != "-";
-        return FinishOutput(state.job.output, wb, "", s.out, text_out) ? kCliDone : kCliRefused;
+        }
+        return RunAndFinish(state, entry, wb, platform, s);
       });
-  AddFileJob(app, state.job);
+  if (needs_data) {
+    AddFileJob(app, state.job);
+  } else {
+    AddOutputOptions(app, state.job.output);
+  }
   OptionFlagBinder binder(app, state.pending);
   state.options->Visit(binder);
   app.add_option("--json", state.json,

@@ -7,7 +7,6 @@
 #include "shell/workbench.h"
 #include "ui/cli/analysis_command.h"
 #include "ui/cli/cli_registry.h"
-#include "ui/cli/coalescent_command.h"
 #include "ui/cli/data_commands.h"
 #include "ui/cli/export_commands.h"
 #include "ui/cli/file_job.h"
@@ -28,7 +27,6 @@ int RunCli(int argc, char** argv, std::ostream& out, std::ostream& err) {
   AddExportCommands(registry);
   AddAnalysisCommands(registry);
   AddToolCommands(registry);
-  AddCoalescentCommand(registry);
 
   try {
     app.parse(argc, argv);

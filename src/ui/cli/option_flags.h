@@ -60,7 +60,11 @@ class OptionFlagBinder final : public OptionVisitor {
     app_.add_option("--" + field.key, value, help)->capture_default_str();
   }
   void Text(std::string& value, const OptionField& field) override {
-    app_.add_option("--" + field.key, value, Describe(field));
+    if (field.positional) {
+      app_.add_option(field.key, value, Describe(field))->required();
+    } else {
+      app_.add_option("--" + field.key, value, Describe(field));
+    }
   }
 
  private:

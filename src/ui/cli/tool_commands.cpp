@@ -13,7 +13,6 @@
 #include "tools/calculator.h"
 #include "tools/calculator_keys.h"
 #include "tools/distribution_run.h"
-#include "tools/independence_run.h"
 #include "ui/cli/analysis_command.h"
 #include "ui/cli/cli_registry.h"
 #include "ui/cli/console_platform.h"
@@ -64,32 +63,6 @@ int RunTool(const ToolOutput& out, const CliStreams& s,
 EwensTail FsTail(int32_t n, int32_t h, double theta) {
   const FsResult r = FsStatistic(n, h, theta);
   return {r.PEqual, r.StrobeckS, r.Fs == kFsOutOfRange ? kEwensFsOutOfRange : r.Fs};
-}
-
-void AddIndependence(CliRegistry& registry) {
-  struct State {
-    IndependenceOptions table;
-    ToolOutput out;
-  };
-  auto& state = registry.Keep<State>();
-  const CommandFacts& row = FindEntry(CommandId::kIndependence)->Facts;
-  CLI::App& app = registry.Add(
-      row.CliName,
-      "Fisher's exact test, chi-square and G tests of a 2 x 2 table a b / c d (command " +
-          std::to_string(row.Number()) + ", \"" + row.Title + "\")",
-      [&state](const CliStreams& s) {
-        return RunTool<IndependenceRun>(
-            state.out, s,
-            [&state](OutputChannel& channel, IndependenceRun* run) {
-              return RunIndependence(channel, state.table, run);
-            },
-            [](JsonText& json, const IndependenceRun& run) { WriteJson(json, run); });
-      });
-  app.add_option("A", state.table.A, "First row, first column")->required();
-  app.add_option("B", state.table.B, "First row, second column")->required();
-  app.add_option("C", state.table.C, "Second row, first column")->required();
-  app.add_option("D", state.table.D, "Second row, second column")->required();
-  AddToolOutput(app, state.out);
 }
 
 // One tab of the distributions as a subcommand of its own, with the tab's boxes as flags.
@@ -191,7 +164,6 @@ void AddCalculator(CliRegistry& registry) {
 }  // namespace
 
 void AddToolCommands(CliRegistry& registry) {
-  AddIndependence(registry);
   AddDistributions(registry);
   AddCalculator(registry);
 }

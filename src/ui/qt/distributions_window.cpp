@@ -65,7 +65,7 @@ void DistributionsWindow::ReadBoxes() {
   for (const BoundBox& box : bound_) *box.value = box.edit->text().toStdString();
 }
 
-std::optional<ToolMessage> DistributionsWindow::Compute() {
+std::optional<ToolMessage> DistributionsWindow::RunTab() {
   ReadBoxes();
   OutputChannel& channel = Bench().Output();
   switch (static_cast<DistributionTab>(tabs_->currentIndex())) {
@@ -79,6 +79,14 @@ std::optional<ToolMessage> DistributionsWindow::Compute() {
       return RunEwens(channel, boxes_.Ewens, FsEwensTail);
   }
   return std::nullopt;
+}
+
+bool DistributionsWindow::Compute() {
+  const auto refusal = RunTab();
+  if (!refusal) return true;
+  Bench().Ui().MessageBox(refusal->Text, MsgIcon::kWarning, MsgButtons::kOk, refusal->Title,
+                          false);
+  return false;
 }
 
 }  // namespace ovelt

@@ -26,9 +26,11 @@ class DistributionsWindow : public ToolReportWindow {
   [[nodiscard]] QLineEdit* Box(DistributionTab tab, const std::string& key) const;
 
  protected:
-  std::optional<ToolMessage> Compute() override;
+  bool Compute() override;
 
  private:
+  // Runs the chosen tab; its refusal, if any.
+  std::optional<ToolMessage> RunTab();
   struct BoundBox {
     DistributionTab tab;
     std::string key;

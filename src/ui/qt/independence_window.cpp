@@ -7,7 +7,8 @@
 
 #include "shell/workbench.h"
 #include "tools/independence_margins.h"
-#include "tools/independence_run.h"
+#include "shell/command_registry.h"
+#include "shell/command_runner.h"
 
 namespace ovelt {
 namespace {
@@ -85,8 +86,9 @@ void IndependenceWindow::ShowTotals() {
   grand_total_->setText(QString::fromStdString(m.Total));
 }
 
-std::optional<ToolMessage> IndependenceWindow::Compute() {
-  return RunIndependence(Bench().Output(), Boxes());
+bool IndependenceWindow::Compute() {
+  TypedOptions<IndependenceOptions> options(Boxes());
+  return RunCommand(Bench(), *FindEntry(CommandId::kIndependence), options).Stands;
 }
 
 }  // namespace ovelt

@@ -1,7 +1,8 @@
 #pragma once
 // "Tests of Independence" (Form12): the four cells of a 2 x 2 table with their row and column
 // totals, and the report of Fisher's exact, chi-square and G tests under them. The checks, the
-// tests and the report are those of tools/independence_run.h.
+// tests and the report are those of the command's binding (tools/independence_command.h), run
+// by the one runner.
 
 #include <array>
 
@@ -26,7 +27,7 @@ class IndependenceWindow : public ToolReportWindow {
   [[nodiscard]] QString GrandTotal() const;
 
  protected:
-  std::optional<ToolMessage> Compute() override;
+  bool Compute() override;
 
  private:
   [[nodiscard]] IndependenceOptions Boxes() const;

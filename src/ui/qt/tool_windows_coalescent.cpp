@@ -19,9 +19,12 @@
 #include <exception>
 #include <variant>
 
+#include "coalescent/coalescent_options.h"
 #include "coalescent/coalescent_run.h"
 #include "coalescent/simulation_report.h"
 #include "coalescent/statistic_code.h"
+#include "shell/command_registry.h"
+#include "shell/command_runner.h"
 #include "shell/workbench.h"
 #include "output/format_mask.h"
 #include "tools/simulation_captions.h"
@@ -275,15 +278,12 @@ void CoalescentWindow::RunAndShow() {
   const QTime started = QTime::currentTime();
   // The beep marks the start of a run, so a refused form stays silent.
   if (std::holds_alternative<SimulationSpec>(ReadSimulationForm(Form()))) QApplication::beep();
-  OutputChannel& channel = wb_.Output();
-  channel.ReopenDialog = 0;
-  CoalescentRun run;
-  if (const auto refusal = RunCoalescent(channel, Form(), 1, &run)) {
-    wb_.Ui().MessageBox(refusal->Text, MsgIcon::kWarning, MsgButtons::kOk, refusal->Title, false);
-    return;
-  }
-  if (const auto notice = NoEffectiveReplicatesNotice(run))
-    wb_.Ui().MessageBox(notice->Text, MsgIcon::kWarning, MsgButtons::kOk, notice->Title, false);
+  TypedOptions<CoalescentOptions> options(OptionsOfForm(Form()));
+  const RunOutcome outcome = RunCommand(wb_, *FindEntry(CommandId::kCoalescent), options);
+  if (!outcome.Stands) return;
+  const auto* held = std::any_cast<std::shared_ptr<const CoalescentRun>>(&outcome.Result);
+  if (held == nullptr) return;
+  const CoalescentRun& run = **held;
   const SimulationResult& r = run.Result;
   filling_ = true;
   if (observed_->text().trimmed().isEmpty()) observed_->setText("0");
@@ -300,7 +300,8 @@ void CoalescentWindow::RunAndShow() {
   seed_->setText(QString::number(suggest_seed_()));
   filling_ = false;
   save_->setEnabled(true);
-  print_->setEnabled(true);  wait_second_(started);
+  print_->setEnabled(true);
+  wait_second_(started);
 }
 
 void CoalescentWindow::OnSave() {

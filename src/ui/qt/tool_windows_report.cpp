@@ -49,12 +49,8 @@ QString ToolReportWindow::ReportText() const { return report_->toPlainText(); }
 void ToolReportWindow::OnCompute() {
   OutputChannel& channel = wb_.Output();
   channel.ReopenDialog = 0;
-  if (const auto refusal = Compute()) {
-    // The window stays open with the boxes as typed, and the last report as it stood.
-    wb_.Ui().MessageBox(refusal->Text, MsgIcon::kWarning, MsgButtons::kOk, refusal->Title,
-                        false);
-    return;
-  }
+  // A refusal keeps the window open with the boxes as typed, and the last report as it stood.
+  if (!Compute()) return;
   QString text = QString::fromStdString(channel.TextBuffer);
   text.replace("\r\n", "\n");
   report_->setPlainText(text);

@@ -37,8 +37,9 @@ class ToolReportWindow : public QDialog {
   // Where the subclass puts its boxes, above the report.
   [[nodiscard]] QVBoxLayout* Inputs() const { return inputs_; }
   [[nodiscard]] Workbench& Bench() const { return wb_; }
-  // Runs the subclass's computation.
-  virtual std::optional<ToolMessage> Compute() = 0;
+  // Runs the subclass's computation: true when its result stands in the output channel; a
+  // refusal has been shown and the window stays as it was.
+  virtual bool Compute() = 0;
 
  private:
   void OnCompute();
