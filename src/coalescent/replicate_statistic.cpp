@@ -13,7 +13,6 @@
 #include "stats/minimum_recombination.h"
 #include "stats/r2_statistic.h"
 #include "stats/raggedness.h"
-#include "stats/statistic_sentinel.h"
 #include "stats/tajima_d.h"
 #include "stats/wall_b_q.h"
 
@@ -32,7 +31,7 @@ void MutantSpectrum(const HaplotypeMatrix& m, std::vector<int32_t>& spectrum) {
   }
 }
 
-bool IsFailure(double v) { return !std::isfinite(v) || v == kStatisticSentinel; }
+bool IsFailure(double v) { return !std::isfinite(v); }
 
 }  // namespace
 
@@ -128,7 +127,9 @@ std::optional<double> ReplicateStatistic(int code, const StatisticConstants& k,
     case kCodeZa:
     case kCodeZZ: {
       const LinkageSummary z = LinkageFromColumns(r.Matrix->View(), *r.Flips);
-      v = code == kCodeZnS ? z.ZnS : code == kCodeZa ? z.Za : z.ZZ;
+      const std::optional<double> value = code == kCodeZnS ? z.ZnS : code == kCodeZa ? z.Za : z.ZZ;
+      if (!value) return std::nullopt;
+      v = *value;
       break;
     }
     case kCodeRm:
@@ -137,7 +138,9 @@ std::optional<double> ReplicateStatistic(int code, const StatisticConstants& k,
     case kCodeWallB:
     case kCodeWallQ: {
       const WallBQ w = WallFromColumns(r.Matrix->View());
-      v = code == kCodeWallB ? w.B : w.Q;
+      const std::optional<double> value = code == kCodeWallB ? w.B : w.Q;
+      if (!value) return std::nullopt;
+      v = *value;
       break;
     }
     case kCodeFuLiDStar:

@@ -95,7 +95,7 @@ LinkageSummary LinkageFromColumns(const BinaryColumnsView& m,
   const double pairs = static_cast<double>(s) * (s - 1) / 2.0;
   out.ZnS = all_pairs / pairs;
   out.Za = adjacent / (s - 1);
-  out.ZZ = out.Za - out.ZnS;
+  out.ZZ = *out.Za - *out.ZnS;
   return out;
 }
 

@@ -1,13 +1,13 @@
 #pragma once
 // Summaries of the linkage disequilibrium between the segregating sites of a 0/1 haplotype
 // matrix: ZnS, the mean R^2 over all pairs of sites (Kelly 1997); Za, the mean R^2 over adjacent
-// sites; and ZZ = Za - ZnS (Rozas et al. 2001). Fewer than two sites give kStatisticSentinel.
+// sites; and ZZ = Za - ZnS (Rozas et al. 2001). With fewer than two sites none is determined.
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "stats/binary_columns.h"
-#include "stats/statistic_sentinel.h"
 
 namespace ovelt {
 
@@ -33,9 +33,9 @@ struct PairDisequilibrium {
                                                           int32_t n);
 
 struct LinkageSummary {
-  double ZnS = kStatisticSentinel;
-  double Za = kStatisticSentinel;
-  double ZZ = kStatisticSentinel;
+  std::optional<double> ZnS;
+  std::optional<double> Za;
+  std::optional<double> ZZ;
 };
 
 // Over the columns of `m`, in their order. `major_flip`[j] is 1 when the mutant (1) of column j

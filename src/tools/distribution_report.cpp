@@ -47,9 +47,8 @@ std::string PoissonReportText(const PoissonInput& input, const DiscreteProbabili
 
 std::string EwensReportText(const EwensInput& input, const EwensResult& result) {
   const std::string h = StrNum(input.NHap);
-  // The out-of-range mark prints as it stands.
-  const std::string fs = result.Fs == kEwensFsOutOfRange ? StrNum(static_cast<int64_t>(result.Fs))
-                                                         : Format(result.Fs, "0.0000");
+  // An Fs out of range prints as the mark 1234567.
+  const std::string fs = result.Fs ? Format(*result.Fs, "0.0000") : std::string("1234567");
   return InputHead() + Line(" Sample Size: " + StrNum(input.SampleSize)) +
          Line(" NHap, Number of Haplotypes: " + h) +
          Line(" Value of Theta: " + StrNum(input.Theta)) + OutputHead() +

@@ -139,10 +139,10 @@ void WriteJson(JsonText& json, const EwensRun& run) {
       .Number("p_equal", run.Result.PEqual)
       .Number("strobeck_s", run.Result.StrobeckS)
       .Number("expected_nhap", run.Result.Expected);
-  if (run.Result.Fs == kEwensFsOutOfRange) {
-    json.Null("fs");
+  if (run.Result.Fs) {
+    json.Number("fs", *run.Result.Fs);
   } else {
-    json.Number("fs", run.Result.Fs);
+    json.Null("fs");
   }
   json.EndObject();
 }

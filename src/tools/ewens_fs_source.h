@@ -1,7 +1,7 @@
 #pragma once
 // The Ewens probabilities of the "Ewens Distribution" tab taken from the routine that gives Fu's
 // Fs in the neutrality tests (Ewens 1972, Strobeck 1987, Fu 1997; sums in 36-digit decimals):
-// P[K = h], Strobeck's S = P[K <= h] and Fs, with kEwensFsOutOfRange where Fs has no value.
+// P[K = h], Strobeck's S = P[K <= h] and Fs, none where Fs has no value.
 
 #include <cstdint>
 

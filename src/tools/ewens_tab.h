@@ -10,21 +10,19 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 #include "tools/distribution_check.h"
 
 namespace ovelt {
 
-// An Fs that cannot be computed (tails beyond what the logarithms tell apart); it prints as it
-// stands.
-inline constexpr double kEwensFsOutOfRange = 1234567.0;
-
 // What the source gives for (n, h, theta): P[K = h], Strobeck's S = P[K <= h] and Fu's Fs,
-// kEwensFsOutOfRange when Fs is out of range. Called with 2 <= n <= 500, 1 <= h <= n, theta > 0.
+// none when Fs is out of range (tails beyond what the logarithms tell apart). Called with
+// 2 <= n <= 500, 1 <= h <= n, theta > 0.
 struct EwensTail {
   double PEqual = 0;
   double StrobeckS = 0;
-  double Fs = 0;
+  std::optional<double> Fs;
 };
 using EwensTailSource = std::function<EwensTail(int32_t n, int32_t h, double theta)>;
 
@@ -32,7 +30,7 @@ struct EwensResult {
   double PEqual = 0;
   double StrobeckS = 0;
   double Expected = 0;  // E[NHap]
-  double Fs = 0;
+  std::optional<double> Fs;
 };
 
 [[nodiscard]] EwensResult ComputeEwens(const EwensInput& input, const EwensTailSource& tail);

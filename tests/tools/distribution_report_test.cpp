@@ -81,7 +81,7 @@ TEST(DistributionReport, Ewens) {
 }
 
 TEST(DistributionReport, AnFsOutOfRangePrintsAsItStands) {
-  const std::string text = EwensReportText({500, 1, 300.0}, {0, 0, 1.0, kEwensFsOutOfRange});
+  const std::string text = EwensReportText({500, 1, 300.0}, {0, 0, 1.0, std::nullopt});
   EXPECT_NE(text.find(" Fu's Fs statistic: 1234567\r\n"), std::string::npos) << text;
   EXPECT_NE(text.find(" Value of Theta: 300\r\n"), std::string::npos);
 }

@@ -9,7 +9,7 @@
 #include "output/json_text.h"
 #include "shell/command_registry.h"
 #include "shell/workbench.h"
-#include "stats/fs_statistic.h"
+#include "tools/ewens_fs_source.h"
 #include "tools/calculator.h"
 #include "tools/calculator_keys.h"
 #include "tools/distribution_run.h"
@@ -57,12 +57,6 @@ int RunTool(const ToolOutput& out, const CliStreams& s,
     if (!WriteJsonFile(out.json, json.Text(), platform, s.out)) return kCliRefused;
   }
   return FinishOutput(out.output, wb, "", s.out, out.json != "-") ? kCliDone : kCliRefused;
-}
-
-// The Ewens probabilities and Fs of the neutrality tests, for the Ewens tab.
-EwensTail FsTail(int32_t n, int32_t h, double theta) {
-  const FsResult r = FsStatistic(n, h, theta);
-  return {r.PEqual, r.StrobeckS, r.Fs == kFsOutOfRange ? kEwensFsOutOfRange : r.Fs};
 }
 
 // One tab of the distributions as a subcommand of its own, with the tab's boxes as flags.
@@ -117,7 +111,7 @@ void AddDistributions(CliRegistry& registry) {
       "and theta",
       state.boxes.Ewens, state.out,
       [](OutputChannel& channel, const EwensOptions& boxes, EwensRun* r) {
-        return RunEwens(channel, boxes, FsTail, r);
+        return RunEwens(channel, boxes, FsEwensTail, r);
       },
       state.chosen, registry);
 }
