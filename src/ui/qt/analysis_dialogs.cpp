@@ -12,6 +12,9 @@ void AddAnalysisHandlers(MainWindow& window) {
   QWidget* parent = &window;
   for (const CommandEntry& entry : Registry()) {
     if (!entry.Built()) continue;
+    // The calculators (coalescent, independence) keep their fields and results in windows of
+    // their own (tool_windows.cpp), which run them through the same runner.
+    if (!entry.Binding->NeedsData()) continue;
     window.AddHandler(entry.Facts.Handler,
                       [parent, &wb, &entry] { RunAnalysisWithDialog(parent, wb, entry); });
   }
