@@ -76,9 +76,9 @@ TEST(SizeChangeCli, MultidomainWithDomainsOnTheCommandLine) {
   const auto r = RunOvelt({"multidomain", file, "--domain", "Left=1-2;Right=3-5", "--json", "-"},
                           dir.Path().string());
   ASSERT_EQ(r.status, 0) << r.err;
-  EXPECT_NE(r.out.find("\"Domain\":\"Left\""), std::string::npos) << r.out;
-  EXPECT_NE(r.out.find("\"Domain\":\"Right\""), std::string::npos);
-  EXPECT_NE(r.out.find("\"Population\":\"All_Seqs\""), std::string::npos);
+  EXPECT_NE(r.out.find("\"domain\":\"Left\""), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find("\"domain\":\"Right\""), std::string::npos);
+  EXPECT_NE(r.out.find("\"sequence_set\":\"All_Seqs\""), std::string::npos);
 
   const auto bad = RunOvelt({"multidomain", file, "--domain", "Left=1-20"}, dir.Path().string());
   EXPECT_NE(bad.status, 0);
