@@ -7,7 +7,8 @@
 //   Compute   (selection, options, progress) -> Result                numbers only
 //   Report    (result, selection, options) -> CommandReport           text, grids, chart
 //
-// and the name its JSON carries. The range check of the option fields runs before Validate;
+// and the name its JSON carries; the JSON itself is made from the Result's declared fields
+// (`Visit`, see result_json.h). The range check of the option fields runs before Validate;
 // a selection smaller than the command's minimum is refused with the usual words.
 
 #include <functional>
@@ -44,8 +45,6 @@ struct AnalysisParts {
   std::function<Result(const Selection&, const Options&, const Progress&)> Compute;
   std::function<CommandReport(const Result&, const Selection&, const Options&)> Report;
   std::string JsonName;  // the "analysis" of its JSON
-  // The JSON of a result that does not declare its fields with `Visit` yet.
-  std::function<std::string(const Result&)> Json;
 };
 
 namespace analysis_detail {
@@ -57,6 +56,9 @@ concept DeclaresFields = requires(const Result& r, JsonFields& v) {
 
 template <class Options, class Result>
 class AnalysisBinding final : public CommandBinding {
+  static_assert(analysis_detail::DeclaresFields<Result>,
+                "the Result of an analysis declares its JSON fields with a member template Visit");
+
  public:
   explicit AnalysisBinding(AnalysisParts<Options, Result> parts) : parts_(std::move(parts)) {}
 
@@ -84,13 +86,7 @@ class AnalysisBinding final : public CommandBinding {
     product.Report = parts_.Report(result, selection, options);
     product.Region = selection.Region;
     product.Used = UsedBy(selection);
-    if (context.WantJson) {
-      if (parts_.Json) {
-        product.Json = parts_.Json(result);
-      } else if constexpr (analysis_detail::DeclaresFields<Result>) {
-        product.Json = ResultJson(parts_.JsonName, result);
-      }
-    }
+    if (context.WantJson) product.Json = ResultJson(parts_.JsonName, result);
     return product;
   }
 

@@ -9,6 +9,7 @@
 //     v.Text("significance", Mark);
 //     v.Object("sliding_window", Windows);  // a struct with its own Visit, or an optional one
 //     v.Array("windows", Rows);             // a vector of structs with their own Visit
+//     v.Fields(Variances);                  // an optional struct's keys among these: null if none
 //   }
 //
 // The same quantity has the same key in every command (the README lists them); a value that
@@ -35,9 +36,10 @@ class JsonFields {
   void Numbers(std::string_view key, const std::vector<double>& values) {
     json_.Numbers(key, values);
   }
-  void Integers(std::string_view key, const std::vector<int32_t>& values) {
+  template <class Int>
+  void Integers(std::string_view key, const std::vector<Int>& values) {
     json_.BeginArray(key);
-    for (const int32_t value : values) json_.Integer({}, value);
+    for (const Int value : values) json_.Integer({}, static_cast<int64_t>(value));
     json_.EndArray();
   }
   void Optional(std::string_view key, const std::optional<double>& value) {
@@ -75,8 +77,42 @@ class JsonFields {
     }
     json_.EndArray();
   }
+  // The keys of a part that may be missing, written among the result's own: its values, or null
+  // under each of its keys when it was not determined, so that a script finds every key.
+  template <class T>
+  void Fields(const std::optional<T>& part) {
+    if (part) {
+      part->Visit(*this);
+    } else {
+      NullFields nulls{json_};
+      T{}.Visit(nulls);
+    }
+  }
 
  private:
+  // Writes null under every key a Visit names.
+  struct NullFields {
+    JsonText& json;
+    void Integer(std::string_view key, int64_t) { json.Null(key); }
+    void Number(std::string_view key, double) { json.Null(key); }
+    void Bool(std::string_view key, bool) { json.Null(key); }
+    void Text(std::string_view key, std::string_view) { json.Null(key); }
+    template <class Values>
+    void Numbers(std::string_view key, const Values&) { json.Null(key); }
+    template <class Values>
+    void Integers(std::string_view key, const Values&) { json.Null(key); }
+    template <class Value>
+    void Optional(std::string_view key, const Value&) { json.Null(key); }
+    template <class Value>
+    void OptionalInteger(std::string_view key, const Value&) { json.Null(key); }
+    template <class Part>
+    void Object(std::string_view key, const Part&) { json.Null(key); }
+    template <class Rows>
+    void Array(std::string_view key, const Rows&) { json.Null(key); }
+    template <class Part>
+    void Fields(const std::optional<Part>&) { NullFields nulls{json}; Part{}.Visit(nulls); }
+  };
+
   JsonText& json_;
 };
 

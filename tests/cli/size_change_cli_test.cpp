@@ -40,8 +40,8 @@ TEST(SizeChangeCli, JsonAndGrid) {
                            "--tau", "3"},
                           dir.Path().string());
   ASSERT_EQ(r.status, 0) << r.err;
-  EXPECT_NE(r.out.find("\"Mismatch\":[0,3,2,1]"), std::string::npos) << r.out;
-  EXPECT_NE(r.out.find("\"Pairs\":6"), std::string::npos);
+  EXPECT_NE(r.out.find("\"mismatch_distribution\":[0,3,2,1]"), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find("\"pairs\":6"), std::string::npos);
   EXPECT_EQ(r.out.find(" Observed values:"), std::string::npos);
   const std::string tsv = testing::ReadBytes(grid);
   EXPECT_EQ(tsv.substr(0, 34), "Differences\tFreq. Obs.\tFreq. Exp.\n");
@@ -76,9 +76,9 @@ TEST(SizeChangeCli, MultidomainWithDomainsOnTheCommandLine) {
   const auto r = RunOvelt({"multidomain", file, "--domain", "Left=1-2;Right=3-5", "--json", "-"},
                           dir.Path().string());
   ASSERT_EQ(r.status, 0) << r.err;
-  EXPECT_NE(r.out.find("\"Domain\":\"Left\""), std::string::npos) << r.out;
-  EXPECT_NE(r.out.find("\"Domain\":\"Right\""), std::string::npos);
-  EXPECT_NE(r.out.find("\"Population\":\"All_Seqs\""), std::string::npos);
+  EXPECT_NE(r.out.find("\"domain\":\"Left\""), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find("\"domain\":\"Right\""), std::string::npos);
+  EXPECT_NE(r.out.find("\"sequence_set\":\"All_Seqs\""), std::string::npos);
 
   const auto bad = RunOvelt({"multidomain", file, "--domain", "Left=1-20"}, dir.Path().string());
   EXPECT_NE(bad.status, 0);

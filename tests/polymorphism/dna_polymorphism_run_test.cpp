@@ -1,18 +1,23 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
+#include <vector>
 
 #include "analyses/polymorphism/diversity/dna_polymorphism.h"
-#include "analyses/polymorphism/diversity/dna_polymorphism_json.h"
 #include "analyses/polymorphism/diversity/dna_polymorphism_options.h"
 #include "analyses/polymorphism/diversity/dna_polymorphism_report.h"
 #include "core/report_head.h"
 #include "core/site_scan.h"
 #include "poly_fixture.h"
 #include "run_fixture.h"
+#include "support/json_reader.h"
 
 namespace ovelt {
 namespace {
+
+using testing::JsonValue;
 
 struct Bench : test::RunBench {
   using RunBench::RunBench;
@@ -122,7 +127,8 @@ TEST(DnaPolymorphismRun, OnlyGapSitesEndTheReportAfterPi) {
   o.ComputeVarPi = o.ComputeJC = true;
   ASSERT_TRUE(b.Run(o));
   const DnaPolResult result = b.Result(o);
-  EXPECT_EQ(result.Stats.NetSites, 0);
+  ASSERT_TRUE(result.Stats.has_value());
+  EXPECT_EQ(result.Stats->NetSites, 0);
   const std::string body = b.Body();
   const std::string last = " Nucleotide diversity, Pi: 0.00000\r\n";
   ASSERT_GE(body.size(), last.size());
@@ -175,7 +181,7 @@ std::vector<std::string> DistinctRows(int n) {
 TEST(DnaPolymorphismRun, AHundredHaplotypesTakeFourDecimals) {
   Bench hundred(DistinctRows(100));
   ASSERT_TRUE(hundred.Run(Whole()));
-  EXPECT_EQ(hundred.Result(Whole()).Haplotypes.Haplotypes, 100);
+  EXPECT_EQ(hundred.Result(Whole()).Haplotypes.value().Haplotypes, 100);
   // Hd = (1 - 0.01) * 100/99 = 1; VarHd = 2 / 9900 * (0.01 - 0.0001) = 2e-6.
   const std::string body = hundred.Body();
   EXPECT_NE(body.find(" Haplotype (gene) diversity, Hd: 1.0000\r\n"), std::string::npos);
@@ -373,23 +379,145 @@ TEST(DnaPolymorphismRun, AFailingStepShowsItsMessage) {
   EXPECT_EQ(b.channel.ReopenDialog, 0);
 }
 
+// The JSON of a run, read back: the hand-worked numbers of test::HandRows, counts as integers.
 TEST(DnaPolymorphismRun, TheResultAsJson) {
   Bench b(test::HandRows());
   DnaPolOptions o = Whole();
   o.ComputeJC = true;
   ASSERT_TRUE(b.Run(o, true));
-  JsonText json;
-  WriteJson(json, b.Result(o));
-  const std::string& t = b.outcome.Json;
-  EXPECT_EQ(t, json.Text());
-  EXPECT_NE(t.find("\"segregating_sites\":5"), std::string::npos) << t;
-  EXPECT_NE(t.find("\"haplotypes\":5"), std::string::npos);
-  EXPECT_NE(t.find("\"net_sites\":8"), std::string::npos);
-  const size_t pi = t.find("\"pi\":");
-  ASSERT_NE(pi, std::string::npos);
-  EXPECT_NEAR(std::stod(t.substr(pi + 5)), 0.3125, 1e-12);
-  EXPECT_NE(t.find("\"pi_jc\":"), std::string::npos);
-  EXPECT_EQ(t.find("sampling_variance_pi"), std::string::npos);
+  const JsonValue j = JsonValue::Parse(b.outcome.Json);
+  EXPECT_EQ(j["analysis"].Text(), "DNA Polymorphism");
+  EXPECT_EQ(j.Keys().front(), "analysis");
+  for (const auto& [key, count] : std::vector<std::pair<std::string, long long>>{
+           {"region_from", 1}, {"region_to", 9}, {"sequences", 5}, {"net_sites", 8},
+           {"segregating_sites", 5}, {"mutations", 6}, {"haplotypes", 5}}) {
+    ASSERT_TRUE(j[key].IsInteger()) << key;
+    EXPECT_EQ(j[key].Integer(), count) << key;
+  }
+  EXPECT_FALSE(j["missing_data"].Bool());
+  // k = 2.5 over L = 8; five haplotypes of one sequence each: Hd = 5/4 (1 - 5/25) = 1 and
+  // VarHd = 2/20 (0.2 - 0.04) = 0.016 (Nei 1987, 8.4 and 8.12).
+  EXPECT_NEAR(j["k"].Number(), 2.5, 1e-12);
+  EXPECT_NEAR(j["pi"].Number(), 0.3125, 1e-12);
+  EXPECT_NEAR(j["hd"].Number(), 1.0, 1e-12);
+  EXPECT_NEAR(j["var_hd"].Number(), 0.016, 1e-12);
+  // a1 = 1 + 1/2 + 1/3 + 1/4 = 25/12: theta = 5 / a1 = 2.4 per sequence, 0.3 per site; from
+  // Eta = 6 it is 0.36 per site.
+  EXPECT_NEAR(j["theta_sequence"].Number(), 2.4, 1e-12);
+  EXPECT_NEAR(j["theta_site"].Number(), 0.3, 1e-12);
+  EXPECT_NEAR(j["theta_eta_site"].Number(), 0.36, 1e-12);
+  // Pi(JC): five pairs with d = 2 and five with d = 3 over L = 8 (Jukes and Cantor 1969).
+  const double jc = (-0.75 * std::log(1.0 - 8.0 / 24.0) - 0.75 * std::log(1.0 - 12.0 / 24.0)) / 2;
+  EXPECT_NEAR(j["pi_jc"].Number(), jc, 1e-12);
+  // Not asked for: left out.
+  for (const char* key : {"var_pi", "sliding_window", "gc_windows", "pairwise_deletion"})
+    EXPECT_FALSE(j.Has(key)) << key;
+  // No hand-written keys of old.
+  for (const char* key : {"theta_w_sequence", "variances", "sampling_variance_pi"})
+    EXPECT_FALSE(j.Has(key)) << key;
+}
+
+TEST(DnaPolymorphismRun, JsonWithoutNetSitesHasNulls) {
+  Bench b({"A-?", "-C?", "AC?"});
+  DnaPolOptions o = Whole();
+  o.ComputeVarPi = o.ComputeJC = true;
+  ASSERT_TRUE(b.Run(o, true));
+  const JsonValue j = JsonValue::Parse(b.outcome.Json);
+  EXPECT_EQ(j["net_sites"].Integer(), 0);
+  // Asked for, but there is no net site to compute them over.
+  for (const char* key : {"pi", "var_pi", "pi_jc", "theta_sequence", "theta_site", "theta_eta_site",
+                          "var_k_no_recombination", "var_theta_sequence_free_recombination"})
+    EXPECT_TRUE(j[key].IsNull()) << key;
+}
+
+TEST(DnaPolymorphismRun, PiJCWithoutAUsablePairIsNullAndPrintsZero) {
+  // One pair differing at all 3 sites: 1 - 4 d / (3 L) is below 0, no pair is usable.
+  Bench b({"AAA", "CCC"});
+  DnaPolOptions o = Whole();
+  o.ComputeJC = true;
+  ASSERT_TRUE(b.Run(o, true));
+  EXPECT_NE(b.Body().find(" Nucleotide diversity (Jukes and Cantor), Pi(JC): 0.00000\r\n"),
+            std::string::npos)
+      << b.Body();
+  const JsonValue j = JsonValue::Parse(b.outcome.Json);
+  EXPECT_TRUE(j["pi_jc"].IsNull());
+  EXPECT_NEAR(j["pi"].Number(), 1.0, 1e-12);
+}
+
+TEST(DnaPolymorphismRun, JsonOfTheMissingDataMode) {
+  // The alignment of the pairwise-deletion tests: four sequences, six sites.
+  Bench b({"ACGTAC", "AC-T-C", "ATG?--", "GTGT??"});
+  DnaPolOptions o = Whole();
+  o.MissingData = true;
+  ASSERT_TRUE(b.Run(o, true));
+  const JsonValue j = JsonValue::Parse(b.outcome.Json);
+  EXPECT_TRUE(j["missing_data"].Bool());
+  // The statistics of the normal mode are not computed in this mode.
+  for (const char* key : {"net_sites", "segregating_sites", "k", "pi", "haplotypes", "hd",
+                          "theta_sequence", "theta_site"})
+    EXPECT_TRUE(j[key].IsNull()) << key;
+  EXPECT_FALSE(j.Has("sliding_window"));
+  const JsonValue& d = j["pairwise_deletion"];
+  // Pairs (1,2) 4 sites 0 differences, (1,3) 3 and 1, (1,4) 4 and 2, (2,3) 2 and 1, (2,4) 3
+  // and 2, (3,4) 3 and 1; sites 1 and 2 polymorphic (Pi 1/2 and 2/3), 5 sites analyzed.
+  EXPECT_EQ(d["pairs_compared"].Integer(), 6);
+  EXPECT_NEAR(d["average_sites_per_pair"].Number(), 19.0 / 6, 1e-12);
+  EXPECT_NEAR(d["k_pairwise"].Number(), 7.0 / 6, 1e-12);
+  EXPECT_NEAR(d["pi_pairwise"].Number(), (0 + 1.0 / 3 + 0.5 + 0.5 + 2.0 / 3 + 1.0 / 3) / 6,
+              1e-12);
+  EXPECT_EQ(d["sites_analyzed"].Integer(), 5);
+  EXPECT_EQ(d["segregating_sites"].Integer(), 2);
+  EXPECT_TRUE(d["excluded_gap_sites"].IsInteger());
+  EXPECT_NEAR(d["k"].Number(), 0.5 + 2.0 / 3, 1e-12);
+  EXPECT_NEAR(d["pi"].Number(), (0.5 + 2.0 / 3) / 5, 1e-12);
+  EXPECT_NEAR(d["theta_sequence"].Number(), 12.0 / 11, 1e-12);  // 2 / a1(4)
+  EXPECT_NEAR(d["theta_site"].Number(), 12.0 / 11 / 5, 1e-12);
+}
+
+TEST(DnaPolymorphismRun, JsonOfTheWindowsAndOfGC) {
+  // Gaps count in the windows: window 3-4 holds no net site and no nucleotide.
+  Bench b({"AC--GG", "AT?-GC", "AT--GG"});
+  b.ad.GapsInWindow = true;
+  DnaPolOptions o = Whole();
+  o.SlidingOn = o.GcContent = true;
+  o.WindowLength = 2;
+  o.StepSize = 2;
+  ASSERT_TRUE(b.Run(o, true));
+  const JsonValue j = JsonValue::Parse(b.outcome.Json);
+  const JsonValue& w = j["sliding_window"];
+  EXPECT_EQ(w["window_length"].Integer(), 2);
+  EXPECT_EQ(w["step_size"].Integer(), 2);
+  EXPECT_TRUE(w["gaps_in_window"].Bool());
+  ASSERT_EQ(w["windows"].size(), 3u);
+  // Window 1-2: site 2 C T T, gene diversity 3/2 (1 - 5/9) = 2/3 over 2 net sites; S = 1,
+  // theta = 1 / (2 a1(3)) = 1 / 3.
+  const JsonValue& first = w["windows"][0];
+  EXPECT_EQ(first["start"].Integer(), 1);
+  EXPECT_EQ(first["end"].Integer(), 2);
+  EXPECT_EQ(first["net_sites"].Integer(), 2);
+  EXPECT_TRUE(first["midpoint"].IsInteger());
+  EXPECT_NEAR(first["pi"].Number(), 1.0 / 3, 1e-12);
+  EXPECT_NEAR(first["theta_site"].Number(), 1.0 / 3, 1e-12);
+  EXPECT_EQ(first["segregating_sites"].Integer(), 1);
+  const JsonValue& empty = w["windows"][1];
+  EXPECT_EQ(empty["net_sites"].Integer(), 0);
+  EXPECT_TRUE(empty["pi"].IsNull());
+  EXPECT_TRUE(empty["theta_site"].IsNull());
+  // G+C: window 1-2 holds A C A T A T (1/6), window 3-4 nothing, window 5-6 G G G C G G (1).
+  const JsonValue& gc = j["gc_windows"];
+  EXPECT_EQ(gc["window_length"].Integer(), 2);
+  ASSERT_EQ(gc["windows"].size(), 3u);
+  EXPECT_EQ(gc["windows"][0]["start"].Integer(), 1);
+  EXPECT_NEAR(gc["windows"][0]["gc_content"].Number(), 1.0 / 6, 1e-12);
+  EXPECT_NEAR(gc["windows"][0]["at_content"].Number(), 5.0 / 6, 1e-12);
+  EXPECT_EQ(gc["windows"][0]["c_count"].Integer(), 1);
+  EXPECT_TRUE(gc["windows"][1]["gc_content"].IsNull());
+  EXPECT_EQ(gc["windows"][1]["g_count"].Integer(), 0);
+  EXPECT_NEAR(gc["windows"][2]["gc_content"].Number(), 1.0, 1e-12);
+  EXPECT_EQ(gc["windows"][2]["g_count"].Integer(), 5);
+  // The grid shows the G+C windows, with 0 where there is no nucleotide, as it always did.
+  ASSERT_EQ(b.channel.Grid1.Rows.size(), 3u);
+  EXPECT_EQ(b.channel.Grid1.Rows[1][2], "0.00000");
 }
 
 }  // namespace

@@ -19,18 +19,19 @@ TEST(PairwiseDeletion, HandWorkedAlignment) {
   //   (2,3) V 2, 1                       (2,4) V 3, 2   (3,4) V 3, 1
   EXPECT_EQ(r.ExcludedGapSites, 0);
   EXPECT_EQ(r.Comparisons, 6);
-  EXPECT_NEAR(r.AverageSites, 19.0 / 6, 1e-12);
-  EXPECT_NEAR(r.AverageDifferences, 7.0 / 6, 1e-12);
-  EXPECT_NEAR(r.PiPairwise, (0 + 1.0 / 3 + 0.5 + 0.5 + 2.0 / 3 + 1.0 / 3) / 6, 1e-12);
+  EXPECT_NEAR(r.AverageSites.value(), 19.0 / 6, 1e-12);
+  EXPECT_NEAR(r.AverageDifferences.value(), 7.0 / 6, 1e-12);
+  EXPECT_NEAR(r.PiPairwise.value(), (0 + 1.0 / 3 + 0.5 + 0.5 + 2.0 / 3 + 1.0 / 3) / 6,
+              1e-12);
   // Sites: 1 (m 4, A3 G1) Pi 4/3 * 6/16 = 0.5; 2 (C2 T2) Pi 2/3; 3 and 4 monomorphic with
   // m = 3; 5 has one nucleotide and is not analyzed; 6 has two equal nucleotides (m = 2).
   EXPECT_EQ(r.SitesAnalyzed, 5);
   EXPECT_EQ(r.SegSites, 2);
   EXPECT_NEAR(r.K, 0.5 + 2.0 / 3, 1e-12);
-  EXPECT_NEAR(r.Pi, (0.5 + 2.0 / 3) / 5, 1e-12);
+  EXPECT_NEAR(r.Pi.value(), (0.5 + 2.0 / 3) / 5, 1e-12);
   // theta(site) = 1 / a1(4) = 6/11 at each polymorphic site.
   EXPECT_NEAR(r.ThetaWSequence, 12.0 / 11, 1e-12);
-  EXPECT_NEAR(r.ThetaWSite, 12.0 / 11 / 5, 1e-12);
+  EXPECT_NEAR(r.ThetaWSite.value(), 12.0 / 11 / 5, 1e-12);
 }
 
 TEST(PairwiseDeletion, OneKnownNucleotideIsNotAnalyzedTwoEqualOnesAre) {
@@ -39,7 +40,7 @@ TEST(PairwiseDeletion, OneKnownNucleotideIsNotAnalyzedTwoEqualOnesAre) {
   const PairwiseDeletion r = ComputePairwiseDeletion(one, 1, 2);
   EXPECT_EQ(r.SitesAnalyzed, 1);  // 2 sites - site 1
   EXPECT_EQ(r.SegSites, 0);
-  EXPECT_EQ(r.Pi, 0.0);
+  EXPECT_EQ(r.Pi.value(), 0.0);
 }
 
 TEST(PairwiseDeletion, GapsOutsideTheSetAreExcludedWithGapsInSets2) {
@@ -55,8 +56,8 @@ TEST(PairwiseDeletion, GapsOutsideTheSetAreExcludedWithGapsInSets2) {
   // Sites 1 (A A G) and 3 (G T G) are used; pairs compare 4 - 1 = 3 sites:
   //   (1,2) d 1, (1,3) d 1, (2,3) d 2.
   EXPECT_EQ(r.Comparisons, 3);
-  EXPECT_NEAR(r.AverageSites, 3.0, 1e-12);
-  EXPECT_NEAR(r.PiPairwise, (1.0 / 3 + 1.0 / 3 + 2.0 / 3) / 3, 1e-12);
+  EXPECT_NEAR(r.AverageSites.value(), 3.0, 1e-12);
+  EXPECT_NEAR(r.PiPairwise.value(), (1.0 / 3 + 1.0 / 3 + 2.0 / 3) / 3, 1e-12);
   EXPECT_EQ(r.SitesAnalyzed, 3);
   // With GapsInSets 1 the same site is an ordinary monomorphic site of the set.
   ActiveData plain = test::MakeAlignment({"ACGT", "ACTT", "GCGT", "A-GT"});
@@ -64,18 +65,23 @@ TEST(PairwiseDeletion, GapsOutsideTheSetAreExcludedWithGapsInSets2) {
   sel = SelectOneSet(plain, 1, plain.Region);
   const PairwiseDeletion p = ComputePairwiseDeletion(sel, 1, 4);
   EXPECT_EQ(p.ExcludedGapSites, 0);
-  EXPECT_NEAR(p.AverageSites, 4.0, 1e-12);
+  EXPECT_NEAR(p.AverageSites.value(), 4.0, 1e-12);
   EXPECT_EQ(p.SitesAnalyzed, 4);
 }
 
-TEST(PairwiseDeletion, AllPairsEmptyLeaveZeros) {
-  // Two sequences, every site has a gap in one of them: each pair compares 0 sites.
+TEST(PairwiseDeletion, AllPairsEmptyAreNotDetermined) {
+  // Two sequences, every site has a gap in one of them: each pair compares 0 sites, and no
+  // site has two nucleotides.
   const auto ad = test::Selected({"A-", "-C"});
   const PairwiseDeletion r = ComputePairwiseDeletion(ad, 1, 2);
   EXPECT_EQ(r.Comparisons, 0);
-  EXPECT_EQ(r.PiPairwise, 0.0);
-  EXPECT_EQ(r.AverageSites, 0.0);
+  EXPECT_FALSE(r.PiPairwise.has_value());
+  EXPECT_FALSE(r.AverageSites.has_value());
+  EXPECT_FALSE(r.AverageDifferences.has_value());
   EXPECT_EQ(r.SitesAnalyzed, 0);
+  EXPECT_FALSE(r.Pi.has_value());
+  EXPECT_FALSE(r.ThetaWSite.has_value());
+  EXPECT_EQ(r.ThetaWSequence, 0.0);
 }
 
 }  // namespace

@@ -63,10 +63,10 @@ TEST(DomainData, AContiguousDomainGivesTheStatisticsOfItsRegion) {
   EXPECT_EQ(through.NetSites, direct.NetSites);
   EXPECT_EQ(through.SegSites, direct.SegSites);
   EXPECT_EQ(through.Haplotypes, direct.Haplotypes);
-  EXPECT_DOUBLE_EQ(through.K, direct.K);
-  EXPECT_DOUBLE_EQ(through.Hd, direct.Hd);
-  EXPECT_DOUBLE_EQ(through.VarPi, direct.VarPi);
-  EXPECT_DOUBLE_EQ(through.Gc.Total.Content, direct.Gc.Total.Content);
+  EXPECT_DOUBLE_EQ(through.K.value(), direct.K.value());
+  EXPECT_DOUBLE_EQ(through.Hd.value(), direct.Hd.value());
+  EXPECT_DOUBLE_EQ(through.VarPi.value(), direct.VarPi.value());
+  EXPECT_DOUBLE_EQ(through.Gc.Total.value().Content, direct.Gc.Total.value().Content);
 }
 
 TEST(MultiDomain, RowsForEveryDomainAndSet) {
@@ -89,9 +89,9 @@ TEST(MultiDomain, RowsForEveryDomainAndSet) {
   EXPECT_EQ(rows[2].Population, "South");
   // Domain A, all sequences: sites 1, 2 (singletons, 0.4 each) and 4 (2 : 3, 0.6).
   EXPECT_EQ(rows[0].Stats.SegSites, 3);
-  EXPECT_NEAR(rows[0].Stats.K, 1.4, 1e-12);
+  EXPECT_NEAR(rows[0].Stats.K.value(), 1.4, 1e-12);
   // Domain A, North (seqs 1-3): site 2 A G G and site 4 G G A: k = 2/3 + 2/3.
-  EXPECT_NEAR(rows[1].Stats.K, 4.0 / 3.0, 1e-12);
+  EXPECT_NEAR(rows[1].Stats.K.value(), 4.0 / 3.0, 1e-12);
   // Domain B holds the gap site 7: four net sites of its four.
   EXPECT_EQ(rows[3].Stats.Sites, 4);
   EXPECT_EQ(rows[3].Stats.NetSites, 3);
@@ -185,7 +185,6 @@ TEST(MultiDomain, NumberOfDomainsTakesTheFirstOnes) {
 
 TEST(TestCell, SignsLineUp) {
   NeutralityValue v;
-  v.Determined = true;
   v.Value = 0.5;
   EXPECT_EQ(TestCell(v), " 0.5000");
   v.Value = -0.5;

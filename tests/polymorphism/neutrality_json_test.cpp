@@ -6,6 +6,7 @@
 
 #include "analyses/polymorphism/neutrality/fu_li_compute.h"
 #include "analyses/polymorphism/neutrality/fu_li_outgroup_compute.h"
+#include "analyses/polymorphism/neutrality/tajima_compute.h"
 #include "command/result_json.h"
 #include "neutrality_fixture.h"
 
@@ -70,6 +71,23 @@ TEST(FuLiOutgroupJson, NoMutationIsNull) {
   for (const char* member : {"\"eta\":0,", "\"fu_li_d\":null,", "\"fu_li_f\":null,",
                              "\"fu_li_d_significance\":\"n.d.\","})
     EXPECT_TRUE(Has(json, member)) << member << " in " << json;
+}
+
+TEST(PerSiteJson, NoNetSiteLeavesPiAndThetaPerSiteNull) {
+  // Every site has a gap: L = 0, so Pi = k / L and theta / L are not determined; the reports
+  // print 0 for them.
+  const auto sel = test::SelectedAlignment({"A-", "-C", "AC", "AC"});
+  const TajimaTestResult tajima = ComputeTajimaTest(sel, 1, 2, false, {});
+  EXPECT_EQ(tajima.Stats.NetSites, 0);
+  const std::string t = ResultJson("Tajima's Test", tajima);
+  for (const char* member : {"\"net_sites\":0,", "\"pi\":null,", "\"theta_site\":null,"})
+    EXPECT_TRUE(Has(t, member)) << member << " in " << t;
+  const std::string f = ResultJson("Fu and Li's Tests", ComputeFuLiTest(sel, 1, 2, false, {}));
+  EXPECT_TRUE(Has(f, "\"pi\":null,")) << f;
+  // With net sites Pi is a number.
+  const auto poly = test::SelectedAlignment(NeutralityRows());
+  EXPECT_FALSE(Has(ResultJson("Tajima's Test", ComputeTajimaTest(poly, 1, 10, false, {})),
+                   "null"));
 }
 
 }  // namespace

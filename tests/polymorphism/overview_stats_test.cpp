@@ -19,18 +19,18 @@ TEST(OverviewStats, FiveSequencesByHand) {
   EXPECT_EQ(o.Mutations, 4);
   EXPECT_EQ(o.NetSites, 7);
   // G and C among the 35 nucleotides of the 7 sites without gaps: 3 + 4 + 3 + 3 + 4.
-  EXPECT_TRUE(o.Gc.Total.Applicable);
-  EXPECT_NEAR(o.Gc.Total.Content, 17.0 / 35.0, 1e-12);
-  EXPECT_EQ(o.Gc.Total.Sites, 7.0);
-  EXPECT_FALSE(o.Changes.Applicable);
+  ASSERT_TRUE(o.Gc.Total.has_value());
+  EXPECT_NEAR(o.Gc.Total->Content, 17.0 / 35.0, 1e-12);
+  EXPECT_EQ(o.Gc.Total->Sites, 7);
+  EXPECT_FALSE(o.Changes.has_value());
   // Five haplotypes of one sequence each: Q2 = 0.2, Q3 = 0.04.
   EXPECT_EQ(o.Haplotypes, 5);
-  EXPECT_NEAR(o.Hd, 1.0, 1e-12);
-  EXPECT_NEAR(o.VarHd, 0.1 * (0.2 - 0.04), 1e-12);
-  EXPECT_NEAR(o.K, 1.8, 1e-12);
+  EXPECT_NEAR(o.Hd.value(), 1.0, 1e-12);
+  EXPECT_NEAR(o.VarHd.value(), 0.1 * (0.2 - 0.04), 1e-12);
+  EXPECT_NEAR(o.K.value(), 1.8, 1e-12);
   const double a1 = 1 + 0.5 + 1.0 / 3 + 0.25;
-  EXPECT_NEAR(o.ThetaPerSequence, 4 / a1, 1e-12);
-  EXPECT_NEAR(o.ThetaPerSite, 4 / a1 / 7, 1e-12);
+  EXPECT_NEAR(o.ThetaPerSequence.value(), 4 / a1, 1e-12);
+  EXPECT_NEAR(o.ThetaPerSite.value(), 4 / a1 / 7, 1e-12);
 
   // Sampling variance of Pi from the hand-counted differences.
   const double d[5][5] = {{0, 1, 2, 3, 3}, {1, 0, 1, 2, 2}, {2, 1, 0, 1, 1},
@@ -51,7 +51,7 @@ TEST(OverviewStats, FiveSequencesByHand) {
   const double a = dbar * dbar * 16 / (4 * 49.0 * 25);
   b = b / l2 / 125 * 3;
   c = c / l2 / 25;
-  EXPECT_NEAR(o.VarPi, ((6 - 4 * n) * a + b + c) * 4 / 20, 1e-9);
+  EXPECT_NEAR(o.VarPi.value(), ((6 - 4 * n) * a + b + c) * 4 / 20, 1e-9);
 
   // Tajima's D (Tajima 1989) for n = 5, S = 4, k = 1.8.
   const double a2 = 1 + 0.25 + 1.0 / 9 + 1.0 / 16;
@@ -59,18 +59,18 @@ TEST(OverviewStats, FiveSequencesByHand) {
   const double c2 = 66.0 / 180 - 7 / (5 * a1) + a2 / (a1 * a1);
   const double e1 = c1 / a1, e2 = c2 / (a1 * a1 + a2);
   ASSERT_TRUE(o.TestsComputed);
-  ASSERT_TRUE(o.TajimaD.Determined);
-  EXPECT_NEAR(o.TajimaD.Value, (1.8 - 4 / a1) / std::sqrt(e1 * 4 + e2 * 12), 1e-9);
-  ASSERT_TRUE(o.FuLiDStar.Determined);
-  ASSERT_TRUE(o.FuLiFStar.Determined);
+  ASSERT_TRUE(o.TajimaD.Value.has_value());
+  EXPECT_NEAR(*o.TajimaD.Value, (1.8 - 4 / a1) / std::sqrt(e1 * 4 + e2 * 12), 1e-9);
+  ASSERT_TRUE(o.FuLiDStar.Value.has_value());
+  ASSERT_TRUE(o.FuLiFStar.Value.has_value());
 
   // Fs (Fu 1997) with h = n = 5 and theta = k = 1.8: P(K = 5) = theta^4 / ((theta + 1) ...
   // (theta + 4)), the probability of fewer haplotypes is 1 - P(K = 5).
   const double p5 = std::pow(1.8, 4) / (2.8 * 3.8 * 4.8 * 5.8);
-  ASSERT_TRUE(o.FsDetermined);
-  EXPECT_NEAR(o.PEqual, p5, 1e-12);
-  EXPECT_NEAR(o.StrobeckS, 1.0, 1e-12);
-  EXPECT_NEAR(o.Fs, std::log(p5) - std::log(1 - p5), 1e-9);
+  ASSERT_TRUE(o.Fs.has_value());
+  EXPECT_NEAR(o.Fs->PEqual, p5, 1e-12);
+  EXPECT_NEAR(o.Fs->StrobeckS, 1.0, 1e-12);
+  EXPECT_NEAR(o.Fs->Fs, std::log(p5) - std::log(1 - p5), 1e-9);
 }
 
 TEST(OverviewStats, ReportLines) {
@@ -93,7 +93,7 @@ TEST(OverviewStats, ReportLines) {
                       " Theta (per site) from S, Theta-W: 0.27429\r\n"
                       " Theta (per sequence) from S, Theta-W: 1.92000\r\n"
                       " ================== Neutrality Tests ================== \r\n"
-                      " Tajima's D: " + Format(o.TajimaD.Value, "0.00000") + "\r\n"),
+                      " Tajima's D: " + Format(o.TajimaD.Value.value(), "0.00000") + "\r\n"),
             std::string::npos)
       << text;
   EXPECT_NE(text.find(" Fu's Fs statistic: -3.304\r\n"
@@ -121,10 +121,10 @@ TEST(OverviewStats, NoPolymorphism) {
   const auto ad = test::SelectedAlignment({"ACGT", "ACGT", "ACGT", "ACGT"});
   const OverviewStats o = ComputeOverview(ad, 1, 4, true);
   EXPECT_EQ(o.SegSites, 0);
-  EXPECT_FALSE(o.TajimaD.Determined);
+  EXPECT_FALSE(o.TajimaD.Value.has_value());
   EXPECT_EQ(o.TajimaD.Mark, "n.d.");
-  EXPECT_FALSE(o.FsDetermined);
-  EXPECT_EQ(o.Hd, 0.0);
+  EXPECT_FALSE(o.Fs.has_value());
+  EXPECT_EQ(o.Hd.value(), 0.0);
   const std::string text = OverviewReportText(o);
   EXPECT_NE(text.find(" No polymorphisms in the selected region !!!\r\n"
                       " Calculation using the total number of mutations\r\n"),
@@ -141,15 +141,15 @@ TEST(OverviewStats, CodingAndNoncodingGcAndCodonChanges) {
   LeaveForm14(ad, true);
   const Selection sel = SelectOneSet(ad, 0, {1, ad.NumSites});
   const OverviewStats o = ComputeOverview(sel, 1, 11, false);
-  ASSERT_TRUE(o.Changes.Applicable);
-  EXPECT_EQ(o.Changes.Synonymous, 1);
-  EXPECT_EQ(o.Changes.Nonsynonymous, 1);
+  ASSERT_TRUE(o.Changes.has_value());
+  EXPECT_EQ(o.Changes->Synonymous, 1);
+  EXPECT_EQ(o.Changes->Nonsynonymous, 1);
   // Coding: G or C in ATGAAACTT 2, ATGAAGCTT 3, ATGAAAATT 1, of 27 nucleotides.
-  EXPECT_NEAR(o.Gc.Coding.Content, 6.0 / 27.0, 1e-12);
-  EXPECT_EQ(o.Gc.Coding.Sites, 9.0);
+  EXPECT_NEAR(o.Gc.Coding.value().Content, 6.0 / 27.0, 1e-12);
+  EXPECT_EQ(o.Gc.Coding.value().Sites, 9);
   // Noncoding: GC, GC, GG: all 6 are G or C.
-  EXPECT_NEAR(o.Gc.NonCoding.Content, 1.0, 1e-12);
-  EXPECT_NEAR(o.Gc.Total.Content, 12.0 / 33.0, 1e-12);
+  EXPECT_NEAR(o.Gc.NonCoding.value().Content, 1.0, 1e-12);
+  EXPECT_NEAR(o.Gc.Total.value().Content, 12.0 / 33.0, 1e-12);
   const std::string text = OverviewReportText(o);
   EXPECT_NE(text.find(" G+C content at noncoding positions, G+Cn: 1.000    (2.00 sites)\r\n"
                       " G+C content at coding positions, G+Cc: 0.222    (9.00 sites)\r\n"

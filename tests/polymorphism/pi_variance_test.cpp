@@ -99,8 +99,8 @@ TEST(PiJukesCantor, HandWorkedAlignment) {
   // x = 4 d / 24 = d / 6: five pairs with d = 2 (x = 1/3) and five with d = 3 (x = 1/2).
   const double two = -0.75 * std::log(1.0 - 1.0 / 3.0);
   const double three = -0.75 * std::log(0.5);
-  EXPECT_NEAR(PiJukesCantor(PairwiseDifferences(ad, 1, 9), 8), (two + three) / 2, 1e-14);
-  EXPECT_NEAR(PiJukesCantor(ad, 1, 9, 8), (two + three) / 2, 1e-14);
+  EXPECT_NEAR(PiJukesCantor(PairwiseDifferences(ad, 1, 9), 8).value(), (two + three) / 2, 1e-14);
+  EXPECT_NEAR(PiJukesCantor(ad, 1, 9, 8).value(), (two + three) / 2, 1e-14);
 }
 
 TEST(PiJukesCantor, SaturatedPairsAreLeftOut) {
@@ -109,12 +109,15 @@ TEST(PiJukesCantor, SaturatedPairsAreLeftOut) {
   const auto ad = test::Selected({"AAAA", "AAAC", "ACCC"});
   const double expected =
       (-0.75 * std::log(1 - 1.0 / 3.0) + -0.75 * std::log(1 - 2.0 / 3.0)) / 2.0;
-  EXPECT_NEAR(PiJukesCantor(PairwiseDifferences(ad, 1, 4), 4), expected, 1e-14);
+  EXPECT_NEAR(PiJukesCantor(PairwiseDifferences(ad, 1, 4), 4).value(), expected, 1e-14);
 }
 
-TEST(PiJukesCantor, NoUsablePairGivesZero) {
+TEST(PiJukesCantor, NoUsablePairIsNotDetermined) {
   const auto ad = test::Selected({"AAA", "CCC"});  // d = 3, L = 3: x = 4/3
-  EXPECT_EQ(PiJukesCantor(PairwiseDifferences(ad, 1, 3), 3), 0.0);
+  EXPECT_FALSE(PiJukesCantor(PairwiseDifferences(ad, 1, 3), 3).has_value());
+  // Identical sequences are a usable pair: Pi(JC) is 0.
+  const auto same = test::Selected({"ACG", "ACG"});
+  EXPECT_EQ(PiJukesCantor(PairwiseDifferences(same, 1, 3), 3).value(), 0.0);
 }
 
 }  // namespace

@@ -147,7 +147,10 @@ TEST(CommandRunner, NoPolymorphismFailsTheSizeChanges) {
 
 // A command of the test's own over all sequences and sites, whose window table cannot be
 // filled, or whose computation runs out of memory.
-struct Nothing {};
+struct Nothing {
+  template <class V>
+  void Visit(V&) const {}
+};
 
 CommandEntry TestEntry(bool table_too_big) {
   AnalysisParts<NeutralityOptions, Nothing> parts;

@@ -20,6 +20,11 @@ inline const char* const kSamplingVarianceFailure =
 struct PiSamplingVariance {
   double Variance = 0.0;
   double StdDev = 0.0;
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Number("var_pi", Variance);
+  }
 };
 
 // `d` holds the differences over the sites of class 1 to 4 (PairwiseDifferences). The pair

@@ -2,13 +2,20 @@
 // The summary of one polymorphism run that later analyses read: net sites L, segregating sites
 // S, mutations Eta, the average number of nucleotide differences k and Pi = k / L (Nei 1987,
 // Tajima 1983). k is the sum of the per-site gene diversities of the selection, never a loop
-// over pairs. With no net site (L = 0) Pi is 0.
+// over pairs. With no net site (L = 0) Pi is 0 in the reports and null in the JSON.
 
 #include <cstdint>
+#include <optional>
 
 #include "core/selection.h"
 
 namespace ovelt {
+
+// A value per site for the JSON: not determined (null) without a net site, where the reports
+// print 0.
+[[nodiscard]] inline std::optional<double> PerSite(double value, int32_t net_sites) {
+  return net_sites > 0 ? std::optional<double>(value) : std::nullopt;
+}
 
 struct PolyStats {
   int32_t NetSites = 0;   // L
@@ -23,7 +30,7 @@ struct PolyStats {
     v.Integer("segregating_sites", SegSites);
     v.Integer("mutations", static_cast<int64_t>(Mutations));
     v.Number("k", AvgDiffs);
-    v.Number("pi", PiValue);
+    v.Optional("pi", PerSite(PiValue, NetSites));
   }
 };
 

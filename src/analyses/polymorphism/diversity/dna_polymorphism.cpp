@@ -49,10 +49,12 @@ DnaPolResult ComputeDnaPolymorphism(const Selection& sel, int32_t from, int32_t 
   r.Stats = ComputePolyStats(sel, from, to);
   r.Haplotypes = Guarded(kHaplotypeFailure, false,
                          [&] { return ComputeHaplotypes(sel, from, to, progress.Gauge); });
-  const int32_t l = r.Stats.NetSites;
+  const int32_t l = r.Stats->NetSites;
+  const bool var_pi = options.ComputeVarPi && !options.SlidingOn;
+  const bool jc = options.ComputeJC && !options.SlidingOn;
+  r.VarPiAsked = var_pi;
+  r.JukesCantorAsked = jc;
   if (l != 0) {
-    const bool var_pi = options.ComputeVarPi && !options.SlidingOn;
-    const bool jc = options.ComputeJC && !options.SlidingOn;
     // The pairwise differences serve both the variance of Pi and Pi(JC).
     std::optional<PairCounts> d;
     if (var_pi) {
@@ -71,7 +73,7 @@ DnaPolResult ComputeDnaPolymorphism(const Selection& sel, int32_t from, int32_t 
       });
     }
     r.Variances = Guarded(kTajimaVariancesFailure, true,
-                          [&] { return ComputeThetaVariances(r.Sequences, r.Stats); });
+                          [&] { return ComputeThetaVariances(r.Sequences, *r.Stats); });
   }
   if (options.SlidingOn) {
     Say(progress, "Computing Pi (Sliding Window)...");

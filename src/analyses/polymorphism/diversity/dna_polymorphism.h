@@ -3,7 +3,8 @@
 // segregating sites, mutations, haplotypes and haplotype diversity, nucleotide diversity Pi and,
 // on request, its sampling variance and Pi(JC); then the thetas and the variances of k and theta
 // (skipped when the region has no net site), or Pi, Theta and S along a sliding window.
-// Missing-data mode: Pi with pairwise deletion of gaps and missing data.
+// Missing-data mode: Pi with pairwise deletion of gaps and missing data; the statistics of the
+// normal mode are then not determined.
 
 #include <cstdint>
 #include <functional>
@@ -11,6 +12,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "analyses/polymorphism/common/haplotype_fields.h"
 #include "analyses/polymorphism/common/haplotypes.h"
 #include "analyses/polymorphism/common/pi_variance.h"
 #include "analyses/polymorphism/common/poly_gauge.h"
@@ -31,14 +33,32 @@ struct DnaPolResult {
   int32_t Sequences = 0;  // n
   bool MissingData = false;
   // Normal mode.
-  PolyStats Stats;
-  HaplotypeStats Haplotypes;
+  std::optional<PolyStats> Stats;
+  std::optional<HaplotypeStats> Haplotypes;
+  // Asked for (and not ruled out by the window); none with no net site.
+  bool VarPiAsked = false;
   std::optional<PiSamplingVariance> SamplingVariance;
+  bool JukesCantorAsked = false;
   std::optional<double> PiJC;
-  std::optional<ThetaVariances> Variances;
+  std::optional<ThetaVariances> Variances;  // none with no net site
   std::optional<PiThetaWindows> Windows;
   // Missing-data mode.
   std::optional<PairwiseDeletion> Deletion;
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Integer("region_from", RegionFrom);
+    v.Integer("region_to", RegionTo);
+    v.Integer("sequences", Sequences);
+    v.Bool("missing_data", MissingData);
+    v.Fields(Stats);
+    VisitHaplotypes(v, Haplotypes);
+    if (VarPiAsked) v.Fields(SamplingVariance);
+    if (JukesCantorAsked) v.Optional("pi_jc", PiJC);
+    v.Fields(Variances);
+    v.Object("sliding_window", Windows);
+    v.Object("pairwise_deletion", Deletion);
+  }
 };
 
 // What the run shows while it computes: the status words of each step and the gauge.

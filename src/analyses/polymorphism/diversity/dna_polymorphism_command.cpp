@@ -3,7 +3,6 @@
 #include <new>
 
 #include "analyses/polymorphism/diversity/dna_polymorphism.h"
-#include "analyses/polymorphism/diversity/dna_polymorphism_json.h"
 #include "analyses/polymorphism/diversity/dna_polymorphism_report.h"
 #include "analyses/polymorphism/windows/sliding_window_gc.h"
 #include "command/analysis_binding.h"
@@ -19,6 +18,12 @@ struct DnaPolOutcome {
   std::optional<GcWindows> Gc;
   // The net sites the report head gives: in the missing-data mode, those of the region.
   int32_t HeadNetSites = 0;
+
+  template <class V>
+  void Visit(V& v) const {
+    Result.Visit(v);
+    v.Object("gc_windows", Gc);
+  }
 };
 
 bool MissingDataMode(const DnaPolOptions& options) {
@@ -37,7 +42,7 @@ DnaPolOutcome Compute(const Selection& sel, const DnaPolOptions& options,
   DnaPolOutcome outcome;
   outcome.Result = ComputeDnaPolymorphism(sel, from, to, options, window, poly);
   outcome.HeadNetSites =
-      outcome.Result.Deletion ? NetSites(sel, from, to) : outcome.Result.Stats.NetSites;
+      outcome.Result.Stats ? outcome.Result.Stats->NetSites : NetSites(sel, from, to);
   if (outcome.Result.Windows && options.GcContent) {
     try {
       outcome.Gc = ComputeGcWindows(sel, from, to, window);
@@ -91,11 +96,6 @@ std::shared_ptr<const CommandBinding> DnaPolymorphismBinding() {
   parts.Compute = Compute;
   parts.Report = Report;
   parts.JsonName = "DNA Polymorphism";
-  parts.Json = [](const DnaPolOutcome& outcome) {
-    JsonText json;
-    WriteJson(json, outcome.Result);
-    return json.Text();
-  };
   return MakeAnalysis(std::move(parts));
 }
 

@@ -93,26 +93,29 @@ std::string PairwiseDeletionText(const PairwiseDeletion& r, int16_t gaps_in_sets
   t += Line(" Analysis in Pairwise Comparisons", "");
   t += Line(" Gaps/missing information were excluded ONLY in pairwise comparisons", "");
   t += Line("   Number of pairwise comparisons: ", StrNum(r.Comparisons));
-  t += Line("   Average number of sites analyzed: ", Format(r.AverageSites, "0.00"));
-  t += Line("   Average number of differences: ", Format(r.AverageDifferences, "0.000"));
-  t += Line("   Nucleotide diversity, Pi: ", Format(r.PiPairwise, "0.00000"));
+  t += Line("   Average number of sites analyzed: ", Format(r.AverageSites.value_or(0.0), "0.00"));
+  t += Line("   Average number of differences: ",
+            Format(r.AverageDifferences.value_or(0.0), "0.000"));
+  t += Line("   Nucleotide diversity, Pi: ", Format(r.PiPairwise.value_or(0.0), "0.00000"));
   t += kCrLf;
   t += kCrLf;
   t += Line(" Analysis at Individual Sites", "");
   t += Line("   Number of sites analyzed: ", Format(r.SitesAnalyzed, "0.00"));
   t += Line("   Number of polymorphic sites, S: ", StrNum(r.SegSites));
   t += Line("   Average number of differences: ", Format(r.K, "0.000"));
-  t += Line("   Nucleotide diversity, Pi: ", Format(r.Pi, "0.00000"));
+  t += Line("   Nucleotide diversity, Pi: ", Format(r.Pi.value_or(0.0), "0.00000"));
   t += Line("   Theta-W, per sequence: ", Format(r.ThetaWSequence, "0.00000"));
-  t += Line("   Theta-W, per site: ", Format(r.ThetaWSite, "0.00000"));
+  t += Line("   Theta-W, per site: ", Format(r.ThetaWSite.value_or(0.0), "0.00000"));
   return t;
 }
 
 std::string DnaPolReportBody(const DnaPolResult& result, int16_t gaps_in_sets) {
   if (result.Deletion) return PairwiseDeletionText(*result.Deletion, gaps_in_sets);
-  std::string t = PolymorphismFirstBlock(result.Stats, result.Haplotypes);
+  std::string t = PolymorphismFirstBlock(result.Stats.value_or(PolyStats{}), result.Haplotypes);
   if (result.SamplingVariance) t += SamplingVarianceLines(*result.SamplingVariance);
-  if (result.PiJC) t += JukesCantorLine(*result.PiJC);
+  // Pi(JC) is computed over net sites; with no usable pair its line shows 0.
+  const bool net_sites = result.Stats && result.Stats->NetSites != 0;
+  if (result.JukesCantorAsked && net_sites) t += JukesCantorLine(result.PiJC.value_or(0.0));
   if (result.Variances) t += ThetaVarianceBlock(*result.Variances);
   if (result.Windows) t += SlidingBlock(result.Windows->Geometry);
   return t;

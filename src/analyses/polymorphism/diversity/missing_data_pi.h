@@ -4,10 +4,11 @@
 // "-" or "?" are dropped, and Pi is the mean over pairs of differences / compared sites; at each
 // site the sequences without a nucleotide are dropped, Pi(site) = m / (m - 1) (1 - sum p^2) over
 // the m remaining, and Watterson's theta adds 1 / a1(m) per polymorphic site.
-// A site with fewer than two nucleotides is not analyzed; with no usable pair or site the
-// corresponding values stay 0.
+// A site with fewer than two nucleotides is not analyzed. With no usable pair the averages over
+// pairs are not determined, nor Pi and Theta per site with no analyzed site (none).
 
 #include <cstdint>
+#include <optional>
 
 #include "analyses/polymorphism/common/poly_gauge.h"
 #include "core/selection.h"
@@ -22,16 +23,31 @@ struct PairwiseDeletion {
   int32_t ExcludedGapSites = 0;
   // In pairwise comparisons.
   int64_t Comparisons = 0;  // pairs with at least one compared site (C)
-  double AverageSites = 0.0;
-  double AverageDifferences = 0.0;
-  double PiPairwise = 0.0;
+  std::optional<double> AverageSites;  // none when C is 0
+  std::optional<double> AverageDifferences;
+  std::optional<double> PiPairwise;
   // At individual sites.
   int32_t SitesAnalyzed = 0;
   int32_t SegSites = 0;
   double K = 0.0;  // sum of Pi(site)
-  double Pi = 0.0;
+  std::optional<double> Pi;  // none without an analyzed site
   double ThetaWSequence = 0.0;
-  double ThetaWSite = 0.0;
+  std::optional<double> ThetaWSite;
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Integer("excluded_gap_sites", ExcludedGapSites);
+    v.Integer("pairs_compared", Comparisons);
+    v.Optional("average_sites_per_pair", AverageSites);
+    v.Optional("k_pairwise", AverageDifferences);
+    v.Optional("pi_pairwise", PiPairwise);
+    v.Integer("sites_analyzed", SitesAnalyzed);
+    v.Integer("segregating_sites", SegSites);
+    v.Number("k", K);
+    v.Optional("pi", Pi);
+    v.Number("theta_sequence", ThetaWSequence);
+    v.Optional("theta_site", ThetaWSite);
+  }
 };
 
 // Over from..to of the first selection. The gauge rises to 80 over the pairs, then to 100.

@@ -4,7 +4,8 @@
 
 namespace ovelt {
 
-double PiJukesCantor(const PairCounts& d, int32_t net_sites, const PolyGauge& gauge) {
+std::optional<double> PiJukesCantor(const PairCounts& d, int32_t net_sites,
+                                    const PolyGauge& gauge) {
   const int32_t n = d.n();
   double sum = 0.0;
   int64_t usable = 0;
@@ -18,11 +19,12 @@ double PiJukesCantor(const PairCounts& d, int32_t net_sites, const PolyGauge& ga
     }
     RaiseTo(gauge, static_cast<int>(static_cast<double>(i) / (n - 1) * 100.0));
   }
-  return usable == 0 ? 0.0 : sum / static_cast<double>(usable);
+  if (usable == 0) return std::nullopt;
+  return sum / static_cast<double>(usable);
 }
 
-double PiJukesCantor(const Selection& sel, int32_t from, int32_t to, int32_t net_sites,
-                     const PolyGauge& gauge) {
+std::optional<double> PiJukesCantor(const Selection& sel, int32_t from, int32_t to,
+                                    int32_t net_sites, const PolyGauge& gauge) {
   return PiJukesCantor(PairwiseDifferences(sel, from, to), net_sites, gauge);
 }
 

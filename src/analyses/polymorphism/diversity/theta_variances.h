@@ -36,6 +36,27 @@ struct ThetaVariances {
   double ThetaWSequence = 0.0;   // S / a1
   double VnSequence = 0.0;       // (S a1^2 + a2 S^2) / (a1^2 (a1^2 + a2))
   double VfSequence = 0.0;       // S / a1^2
+
+  // Flat among the result's keys; k' is the result's k.
+  template <class V>
+  void Visit(V& v) const {
+    v.Number("theta_eta_site", ThetaEta);
+    v.Number("theta_site", ThetaW);
+    v.Number("var_theta_site_no_recombination", VarThetaNoRec);
+    v.Number("var_theta_site_free_recombination", VarThetaFreeRec);
+    v.Number("finite_sites_theta_pi", FiniteFromPi);
+    v.Number("finite_sites_theta_s", FiniteFromS);
+    v.Number("finite_sites_theta_eta", FiniteFromEta);
+    v.Number("var_k_no_recombination", TotalNoRec);
+    v.Number("var_k_stochastic_no_recombination", StochasticNoRec);
+    v.Number("var_k_sampling_no_recombination", SamplingNoRec);
+    v.Number("var_k_free_recombination", TotalFreeRec);
+    v.Number("var_k_stochastic_free_recombination", StochasticFreeRec);
+    v.Number("var_k_sampling_free_recombination", SamplingFreeRec);
+    v.Number("theta_sequence", ThetaWSequence);
+    v.Number("var_theta_sequence_no_recombination", VnSequence);
+    v.Number("var_theta_sequence_free_recombination", VfSequence);
+  }
 };
 
 // For `n` sequences (2 or more) and the statistics of the region (L above 0).

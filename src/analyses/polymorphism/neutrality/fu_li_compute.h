@@ -11,6 +11,7 @@
 #include "analyses/polymorphism/common/haplotype_fields.h"
 #include "analyses/polymorphism/common/haplotypes.h"
 #include "analyses/polymorphism/common/poly_gauge.h"
+#include "analyses/polymorphism/common/poly_stats.h"
 #include "analyses/polymorphism/neutrality/fs_fields.h"
 #include "analyses/polymorphism/neutrality/neutrality_significance.h"
 #include "analyses/polymorphism/neutrality/neutrality_totals.h"
@@ -57,7 +58,7 @@ struct FuLiTestResult {
     v.Integer("eta", Totals.Eta);
     v.Integer("eta_s", Totals.EtaS);
     v.Number("k", Totals.K);
-    v.Number("pi", Pi);
+    v.Optional("pi", PerSite(Pi, Totals.NetSites));
     v.Number("theta_k", ThetaK);
     v.Number("theta_eta_s", ThetaEtaS);
     v.Number("theta_eta", ThetaEta);

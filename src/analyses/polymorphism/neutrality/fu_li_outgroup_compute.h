@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "analyses/polymorphism/common/poly_gauge.h"
+#include "analyses/polymorphism/common/poly_stats.h"
 #include "analyses/polymorphism/neutrality/neutrality_significance.h"
 #include "analyses/polymorphism/neutrality/neutrality_totals.h"
 #include "analyses/polymorphism/neutrality/neutrality_windows.h"
@@ -57,7 +58,7 @@ struct FuLiOutgroupResult {
     v.Integer("eta_e", Totals.EtaE);
     v.Integer("eta_s", Totals.EtaS);
     v.Number("k", Totals.K);
-    v.Number("pi", Pi);
+    v.Optional("pi", PerSite(Pi, Totals.NetSites));
     v.Number("theta_k", ThetaK);
     v.Number("theta_eta_e", ThetaEtaE);
     v.Number("theta_eta", ThetaEta);

@@ -39,7 +39,7 @@ struct TajimaTestResult {
     v.Bool("use_mutations", UseMutations);
     Stats.Visit(v);
     v.Number("theta_sequence", ThetaSequence);
-    v.Number("theta_site", ThetaSite);
+    v.Optional("theta_site", PerSite(ThetaSite, Stats.NetSites));
     v.Optional("tajima_d", D);
     v.Text("significance", Mark);
     v.Object("sliding_window", Windows);

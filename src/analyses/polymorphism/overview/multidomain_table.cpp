@@ -6,11 +6,11 @@ namespace ovelt {
 
 namespace {
 
-std::string GcCell(const GcShare& share) {
-  return share.Applicable ? Format(share.Content, "0.000") : "   n.a.";
+std::string GcCell(const std::optional<GcShare>& share) {
+  return share ? Format(share->Content, "0.000") : "   n.a.";
 }
 
-std::string MarkCell(const NeutralityValue& v) { return v.Determined ? v.Mark : "n.d."; }
+std::string MarkCell(const NeutralityValue& v) { return v.Value ? v.Mark : "n.d."; }
 
 }  // namespace
 
@@ -36,15 +36,15 @@ const std::vector<std::string>& MultiDomainShortHeads() {
 }
 
 std::string TestCell(const NeutralityValue& v) {
-  if (!v.Determined) return "   n.d.";
-  std::string cell = v.Value >= 0.0 ? " " : "";
-  cell += Format(v.Value, "0.0000");
+  if (!v.Value) return "   n.d.";
+  std::string cell = *v.Value >= 0.0 ? " " : "";
+  cell += Format(*v.Value, "0.0000");
   return cell;
 }
 
 std::vector<std::string> MultiDomainCells(const MultiDomainRow& row) {
   const OverviewStats& o = row.Stats;
-  const bool coding = o.Changes.Applicable;
+  const std::optional<CodonChanges>& coding = o.Changes;
   return {
       Format(row.DataFile, "!@@@@@@@@@@@@@@@"),
       Format(row.Population, "!@@@@@@@@@@@@@@@"),
@@ -56,22 +56,22 @@ std::vector<std::string> MultiDomainCells(const MultiDomainRow& row) {
       Format(o.SegSites, "@@@@@"),
       Format(o.Mutations, "@@@@@"),
       Format(o.Haplotypes, "@@@@@"),
-      o.HaplotypesDetermined ? Format(o.Hd, "0.000") : "n.d.",
-      o.HaplotypesDetermined ? Format(o.VarHd, "0.00000") : "n.d.",
-      Format(o.Pi, "0.00000"),
-      o.VarPiDetermined ? Format(o.VarPi, "0.00000") : "n.d.",
-      Format(o.ThetaPerSite, "0.00000"),
-      Format(o.ThetaPerSequence, "0.00000"),
-      Format(o.K, "0.000"),
-      coding ? Format(o.Changes.Synonymous, "@@@@@") : "n.a.",
-      coding ? Format(o.Changes.Nonsynonymous, "@@@@@") : "n.a.",
+      o.Hd ? Format(*o.Hd, "0.000") : "n.d.",
+      o.Hd ? Format(o.VarHd.value_or(0.0), "0.00000") : "n.d.",
+      Format(o.Pi.value_or(0.0), "0.00000"),
+      o.VarPi ? Format(*o.VarPi, "0.00000") : "n.d.",
+      Format(o.ThetaPerSite.value_or(0.0), "0.00000"),
+      Format(o.ThetaPerSequence.value_or(0.0), "0.00000"),
+      Format(o.K.value_or(0.0), "0.000"),
+      coding ? Format(coding->Synonymous, "@@@@@") : "n.a.",
+      coding ? Format(coding->Nonsynonymous, "@@@@@") : "n.a.",
       TestCell(o.TajimaD),
       MarkCell(o.TajimaD),
       TestCell(o.FuLiDStar),
       MarkCell(o.FuLiDStar),
       TestCell(o.FuLiFStar),
       MarkCell(o.FuLiFStar),
-      o.FsDetermined ? Format(o.Fs, "0.000") : "n.d.",
+      o.Fs ? Format(o.Fs->Fs, "0.000") : "n.d.",
       GcCell(o.Gc.NonCoding),
       GcCell(o.Gc.Coding),
       GcCell(o.Gc.Total),

@@ -19,6 +19,26 @@ struct MultiDomainRow {
   std::string Region;      // the domain's name
   int32_t SitesRegion = 0;  // sites of the domain
   OverviewStats Stats;
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Text("domain", Region);
+    v.Text("sequence_set", Population);
+    v.Integer("domain_sites", SitesRegion);
+    Stats.Visit(v);
+  }
+};
+
+// The result of "Multiblock Analysis": one row per domain and set, in the table's order.
+struct MultiDomainResult {
+  std::string DataFile;
+  std::vector<MultiDomainRow> Rows;
+
+  template <class V>
+  void Visit(V& v) const {
+    v.Text("data_file", DataFile);
+    v.Array("domains", Rows);
+  }
 };
 
 [[nodiscard]] const std::vector<std::string>& MultiDomainLongHeads();

@@ -63,8 +63,9 @@ void CountCodon(const Selection& sel, const std::array<int32_t, 3>& sites, Codon
 
 }  // namespace
 
-CodonChanges CountCodonChanges(const Selection& sel, int32_t from, int32_t to) {
+std::optional<CodonChanges> CountCodonChanges(const Selection& sel, int32_t from, int32_t to) {
   CodonChanges c;
+  bool coding = false;
   std::array<int32_t, 3> codon{};
   int next = 1;  // the codon position expected next
   for (int32_t site = from; site <= to; ++site) {
@@ -72,7 +73,7 @@ CodonChanges CountCodonChanges(const Selection& sel, int32_t from, int32_t to) {
                                  ? sel.data().CodonPosition[static_cast<size_t>(site)]
                                  : int16_t{0};
     if (position == 0) continue;
-    c.Applicable = true;
+    coding = true;
     if (position != next) {
       // A broken codon: start again at the next first position.
       next = 1;
@@ -86,6 +87,7 @@ CodonChanges CountCodonChanges(const Selection& sel, int32_t from, int32_t to) {
       next = position + 1;
     }
   }
+  if (!coding) return std::nullopt;
   return c;
 }
 

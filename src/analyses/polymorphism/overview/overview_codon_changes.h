@@ -5,20 +5,20 @@
 // segregating position, each nucleotide other than the most common one at that position is one
 // mutation, synonymous when the codon it makes translates (genetic code in use) to the same
 // amino acid as the most common codon. Codons with two or three segregating positions are left
-// out. With no coding site `Applicable` is false.
+// out. With no coding site there is no count (none; the reports print "n.a.").
 
 #include <cstdint>
+#include <optional>
 
 #include "core/selection.h"
 
 namespace ovelt {
 
 struct CodonChanges {
-  bool Applicable = false;
   int32_t Synonymous = 0;
   int32_t Nonsynonymous = 0;
 };
 
-[[nodiscard]] CodonChanges CountCodonChanges(const Selection& sel, int32_t from, int32_t to);
+[[nodiscard]] std::optional<CodonChanges> CountCodonChanges(const Selection& sel, int32_t from, int32_t to);
 
 }  // namespace ovelt

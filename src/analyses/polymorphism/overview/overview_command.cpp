@@ -4,7 +4,6 @@
 
 #include "analyses/polymorphism/overview/domain_definition.h"
 #include "analyses/polymorphism/overview/multidomain_table.h"
-#include "analyses/polymorphism/overview/overview_json.h"
 #include "analyses/polymorphism/overview/overview_options.h"
 #include "analyses/polymorphism/overview/overview_report.h"
 #include "analyses/polymorphism/overview/overview_stats.h"
@@ -44,25 +43,22 @@ std::vector<int32_t> DomainSites(const ActiveData& ad, const DomainSet& domain, 
   return sites;
 }
 
-template <class Result>
-std::string JsonOf(const Result& result) {
-  JsonText json;
-  WriteJson(json, result);
-  return json.Text();
-}
-
 // The intraspecific overview.
 
-OverviewStats ComputeIntraspecific(const Selection& sel, const OverviewOptions& options,
-                                   const Progress& progress) {
+OverviewResult ComputeIntraspecific(const Selection& sel, const OverviewOptions& options,
+                                    const Progress& progress) {
   try {
     const bool use_mutations = options.UseMutations || sel.data().UseMutations;
-    return ComputeOverview(sel, sel.Region.RegionFrom, sel.Region.RegionTo, use_mutations,
-                           [&progress](int percent) {
-                             if (percent >= 25)
-                               progress.Say("Computing sampling Variance of Pi...");
-                             progress.Raise(percent);
-                           });
+    OverviewResult result;
+    result.RegionFrom = sel.Region.RegionFrom;
+    result.RegionTo = sel.Region.RegionTo;
+    result.Stats = ComputeOverview(sel, result.RegionFrom, result.RegionTo, use_mutations,
+                                   [&progress](int percent) {
+                                     if (percent >= 25)
+                                       progress.Say("Computing sampling Variance of Pi...");
+                                     progress.Raise(percent);
+                                   });
+    return result;
   } catch (const CommandFailure&) {
     throw;
   } catch (const std::exception&) {
@@ -70,11 +66,11 @@ OverviewStats ComputeIntraspecific(const Selection& sel, const OverviewOptions& 
   }
 }
 
-CommandReport ReportIntraspecific(const OverviewStats& stats, const Selection& sel,
+CommandReport ReportIntraspecific(const OverviewResult& result, const Selection& sel,
                                   const OverviewOptions&) {
   CommandReport report;
-  report.Head = ReportHead(sel, stats.NetSites);
-  report.Body = OverviewReportText(stats);
+  report.Head = ReportHead(sel, result.Stats.NetSites);
+  report.Body = OverviewReportText(result.Stats);
   return report;
 }
 
@@ -95,12 +91,14 @@ std::vector<DomainSet> RunDomains(const ActiveData& data, const MultiDomainOptio
   return domains;
 }
 
-std::vector<MultiDomainRow> ComputeDomains(const Selection& sel, const MultiDomainOptions& options,
-                                           const Progress& progress) {
+MultiDomainResult ComputeDomains(const Selection& sel, const MultiDomainOptions& options,
+                                 const Progress& progress) {
   const ActiveData& ad = sel.data();
   const std::vector<DomainSet> domains = RunDomains(ad, options);
   const bool use_mutations = options.UseMutations || ad.UseMutations;
-  std::vector<MultiDomainRow> rows;
+  MultiDomainResult result;
+  result.DataFile = ad.FileName;
+  std::vector<MultiDomainRow>& rows = result.Rows;
   try {
     for (size_t d = 0; d < domains.size(); ++d) {
       const std::vector<int32_t> sites = DomainSites(ad, domains[d], options.IncludeGapSites);
@@ -124,11 +122,12 @@ std::vector<MultiDomainRow> ComputeDomains(const Selection& sel, const MultiDoma
   } catch (const std::exception&) {
     Fail(kMultiDomainFailure);
   }
-  return rows;
+  return result;
 }
 
-CommandReport ReportDomains(const std::vector<MultiDomainRow>& rows, const Selection&,
+CommandReport ReportDomains(const MultiDomainResult& result, const Selection&,
                             const MultiDomainOptions&) {
+  const std::vector<MultiDomainRow>& rows = result.Rows;
   CommandReport report;
   report.Body = JoinCells(MultiDomainLongHeads()) + "\r\n";
   report.Grid1.ColumnTitles = MultiDomainShortHeads();
@@ -145,7 +144,7 @@ CommandReport ReportDomains(const std::vector<MultiDomainRow>& rows, const Selec
 }  // namespace
 
 std::shared_ptr<const CommandBinding> IntraspecificBinding() {
-  AnalysisParts<OverviewOptions, OverviewStats> parts;
+  AnalysisParts<OverviewOptions, OverviewResult> parts;
   parts.Validate = [](const OverviewOptions& options, const ActiveData& data) {
     return RegionRefusal(options.RegionFrom, options.RegionTo, data);
   };
@@ -157,12 +156,11 @@ std::shared_ptr<const CommandBinding> IntraspecificBinding() {
   parts.Compute = ComputeIntraspecific;
   parts.Report = ReportIntraspecific;
   parts.JsonName = "DNA Polymorphism Analysis";
-  parts.Json = JsonOf<OverviewStats>;
   return MakeAnalysis(std::move(parts));
 }
 
 std::shared_ptr<const CommandBinding> MultiDomainBinding() {
-  AnalysisParts<MultiDomainOptions, std::vector<MultiDomainRow>> parts;
+  AnalysisParts<MultiDomainOptions, MultiDomainResult> parts;
   parts.Validate = [](const MultiDomainOptions& options,
                       const ActiveData& data) -> std::optional<SelectionRefusal> {
     if (auto refusal = RegionRefusal(options.RegionFrom, options.RegionTo, data)) return refusal;
@@ -181,7 +179,6 @@ std::shared_ptr<const CommandBinding> MultiDomainBinding() {
   parts.Compute = ComputeDomains;
   parts.Report = ReportDomains;
   parts.JsonName = "Multiblock Analysis. Provisional";
-  parts.Json = JsonOf<std::vector<MultiDomainRow>>;
   return MakeAnalysis(std::move(parts));
 }
 

@@ -10,13 +10,9 @@ struct Tally {
   int32_t sites = 0;
 };
 
-GcShare Share(const Tally& t) {
-  GcShare share;
-  share.Applicable = t.sites > 0 && t.nucleotides > 0;
-  share.Sites = t.sites;
-  if (share.Applicable)
-    share.Content = static_cast<double>(t.gc) / static_cast<double>(t.nucleotides);
-  return share;
+std::optional<GcShare> Share(const Tally& t) {
+  if (t.sites <= 0 || t.nucleotides <= 0) return std::nullopt;
+  return GcShare{static_cast<double>(t.gc) / static_cast<double>(t.nucleotides), t.sites};
 }
 
 }  // namespace

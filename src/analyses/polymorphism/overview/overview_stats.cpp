@@ -21,9 +21,9 @@ constexpr int32_t kTestMinimum = 4;
 
 NeutralityValue Tested(double value, std::string mark) {
   NeutralityValue v;
-  v.Determined = std::isfinite(value);
-  v.Value = v.Determined ? value : 0.0;
-  v.Mark = v.Determined ? std::move(mark) : "n.d.";
+  if (!std::isfinite(value)) return v;
+  v.Value = value;
+  v.Mark = std::move(mark);
   return v;
 }
 
@@ -55,19 +55,20 @@ OverviewStats ComputeOverview(const Selection& sel, int32_t from, int32_t to, bo
   o.NetSites = stats.NetSites;
   o.SegSites = stats.SegSites;
   o.Mutations = static_cast<int32_t>(stats.Mutations);
-  o.Pi = stats.PiValue;
-  o.K = stats.AvgDiffs;
+  // One sequence has no pair to differ; no net site, no Pi.
+  if (n >= 2) o.K = stats.AvgDiffs;
+  if (n >= 2 && o.NetSites > 0) o.Pi = stats.PiValue;
   o.Gc = ComputeGcContent(sel, from, to);
   o.Changes = CountCodonChanges(sel, from, to);
 
   if (n >= 2 && o.Sites <= 0) {
     // No site: every sequence is the same haplotype.
-    o.HaplotypesDetermined = true;
     o.Haplotypes = 1;
+    o.Hd = 0.0;
+    o.VarHd = 0.0;
   } else if (n >= 2) {
     const HaplotypeStats h =
         ComputeHaplotypes(sel, from, to, [&gauge](int percent) { RaiseTo(gauge, percent / 4); });
-    o.HaplotypesDetermined = true;
     o.Haplotypes = h.Haplotypes;
     o.Hd = h.Hd;
     o.VarHd = h.VarHd;
@@ -77,9 +78,7 @@ OverviewStats ComputeOverview(const Selection& sel, int32_t from, int32_t to, bo
   if (n >= 2 && o.NetSites > 0) {
     const PairCounts d = PairwiseDifferences(
         sel, from, to, [&gauge](int percent) { RaiseTo(gauge, 25 + percent / 4); });
-    const PiSamplingVariance v = SamplingVarianceOfPi(d, o.NetSites);
-    o.VarPiDetermined = true;
-    o.VarPi = v.Variance;
+    o.VarPi = SamplingVarianceOfPi(d, o.NetSites).Variance;
   }
   RaiseTo(gauge, 60);
 
@@ -87,7 +86,7 @@ OverviewStats ComputeOverview(const Selection& sel, int32_t from, int32_t to, bo
   const double counted = use_mutations ? o.Mutations : o.SegSites;
   if (a1 > 0.0) {
     o.ThetaPerSequence = counted / a1;
-    o.ThetaPerSite = o.NetSites > 0 ? o.ThetaPerSequence / o.NetSites : 0.0;
+    if (o.NetSites > 0) o.ThetaPerSite = *o.ThetaPerSequence / o.NetSites;
   }
 
   o.TestsComputed = n >= kTestMinimum;
@@ -95,13 +94,7 @@ OverviewStats ComputeOverview(const Selection& sel, int32_t from, int32_t to, bo
   if (o.TestsComputed && o.SegSites > 0) ComputeTests(o, sel, from, to);
   RaiseTo(gauge, 80);
 
-  if (o.K > 0.0 && o.HaplotypesDetermined) {
-    const FsResult fs = FsStatistic(n, o.Haplotypes, o.K);
-    o.FsDetermined = true;
-    o.Fs = fs.Fs;
-    o.StrobeckS = fs.StrobeckS;
-    o.PEqual = fs.PEqual;
-  }
+  if (o.K.value_or(0.0) > 0.0 && o.Hd) o.Fs = FsStatistic(n, o.Haplotypes, *o.K);
   RaiseTo(gauge, 100);
   return o;
 }

@@ -4,7 +4,6 @@
 
 #include "analyses/polymorphism/size_changes/mismatch_expected.h"
 #include "analyses/polymorphism/size_changes/size_change_compute.h"
-#include "analyses/polymorphism/size_changes/size_change_json.h"
 #include "command/analysis_binding.h"
 #include "core/site_scan.h"
 
@@ -84,11 +83,6 @@ std::shared_ptr<const CommandBinding> SizeChangeBinding() {
   parts.Compute = Compute;
   parts.Report = Report;
   parts.JsonName = "Population Size Changes";
-  parts.Json = [](const SizeChangeResult& result) {
-    JsonText json;
-    WriteJson(json, result);
-    return json.Text();
-  };
   return MakeAnalysis(std::move(parts));
 }
 

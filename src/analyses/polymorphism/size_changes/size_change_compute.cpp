@@ -45,7 +45,9 @@ void FillMismatchTable(SizeChangeResult& r, const SizeChangeParameters& values) 
 void FillSpectrumTable(SizeChangeResult& r, const SizeChangeParameters& values) {
   const int32_t n = r.SampleSize;
   const std::vector<double> expected =
-      FoldSpectrum(ExpectedSpectrum(n, values.ThetaInitial, values.ThetaFinal, r.Time), n);
+      FoldSpectrum(ExpectedSpectrum(n, values.ThetaInitial, values.ThetaFinal,
+                                    r.Time.value_or(0.0)),
+                   n);
   const std::vector<double> observed_shares = SpectrumShares(r.ObservedSpectrum);
   const std::vector<double> expected_shares = SpectrumShares(expected);
   r.Table.Rows = n / 2;
@@ -59,7 +61,7 @@ void FillSpectrumTable(SizeChangeResult& r, const SizeChangeParameters& values) 
 
 void FillSegregatingTable(SizeChangeResult& r, const SizeChangeParameters& values) {
   const int32_t n = r.SampleSize;
-  const double span = std::max(kShortestTimeSpan, 2.0 * r.Time);
+  const double span = std::max(kShortestTimeSpan, 2.0 * r.Time.value_or(0.0));
   const double steps = std::floor(span / kTimeStep + 1e-9);
   r.Table.Rows = steps >= 9e15 ? static_cast<int64_t>(9e15) : static_cast<int64_t>(steps) + 1;
   if (IsGridTooBig(r.Table.Rows)) return;
@@ -78,6 +80,8 @@ void FillSegregatingTable(SizeChangeResult& r, const SizeChangeParameters& value
 SizeChangeResult ObserveSizeChange(const Selection& sel, int32_t from, int32_t to,
                                    const PolyGauge& gauge) {
   SizeChangeResult r;
+  r.RegionFrom = from;
+  r.RegionTo = to;
   const PolyStats stats = ComputePolyStats(sel, from, to);
   const int32_t n = sel.SelOutCount;
   r.SampleSize = n;
@@ -127,12 +131,13 @@ void ExpectSizeChange(SizeChangeResult& r, const SizeChangeOptions& options,
   r.AnalysisKind = options.AnalysisKind;
   r.Model = options.Model;
   r.Parameters = values;
-  r.Time = options.Model == kGrowthDecline && values.ThetaFinal > 0.0
-               ? values.Tau / values.ThetaFinal
-               : 0.0;
+  r.Time.reset();
+  if (options.Model == kGrowthDecline && values.ThetaFinal > 0.0)
+    r.Time = values.Tau / values.ThetaFinal;
+  const double t = r.Time.value_or(0.0);
   const int32_t n = r.SampleSize;
-  r.SegregatingN = ExpectedSegregatingSites(n, values.ThetaInitial, values.ThetaFinal, r.Time);
-  r.Segregating2 = ExpectedSegregatingSites(2, values.ThetaInitial, values.ThetaFinal, r.Time);
+  r.SegregatingN = ExpectedSegregatingSites(n, values.ThetaInitial, values.ThetaFinal, t);
+  r.Segregating2 = ExpectedSegregatingSites(2, values.ThetaInitial, values.ThetaFinal, t);
   const double a1 = HarmonicA1Double(n);
   r.SegregatingNPerA1 = a1 > 0.0 ? r.SegregatingN / a1 : 0.0;
   r.Segregating2PerA1 = r.Segregating2;  // a1(2) is 1

@@ -25,6 +25,23 @@ struct KVariance {
 struct ExpectedKVariances {
   KVariance NoRecombination;
   KVariance FreeRecombination;
+
+  // The variances under the keys that DNA polymorphism gives the same estimates.
+  template <class V>
+  void Visit(V& v) const {
+    v.Number("var_k_no_recombination", NoRecombination.Total);
+    v.Number("cv_k_no_recombination", NoRecombination.TotalCV);
+    v.Number("var_k_stochastic_no_recombination", NoRecombination.Stochastic);
+    v.Number("cv_k_stochastic_no_recombination", NoRecombination.StochasticCV);
+    v.Number("var_k_sampling_no_recombination", NoRecombination.Sampling);
+    v.Number("cv_k_sampling_no_recombination", NoRecombination.SamplingCV);
+    v.Number("var_k_free_recombination", FreeRecombination.Total);
+    v.Number("cv_k_free_recombination", FreeRecombination.TotalCV);
+    v.Number("var_k_stochastic_free_recombination", FreeRecombination.Stochastic);
+    v.Number("cv_k_stochastic_free_recombination", FreeRecombination.StochasticCV);
+    v.Number("var_k_sampling_free_recombination", FreeRecombination.Sampling);
+    v.Number("cv_k_sampling_free_recombination", FreeRecombination.SamplingCV);
+  }
 };
 
 [[nodiscard]] ExpectedKVariances ExpectedVariancesOfK(int32_t n, double k);

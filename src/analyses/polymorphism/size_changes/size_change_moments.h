@@ -14,6 +14,13 @@ struct MomentEstimates {
   double ThetaInitial = 0.0;
   double ThetaFinal = kInfiniteThetaFinal;
   double Tau = 0.0;
+
+  // Theta final is not estimated (it stands for infinite): left out.
+  template <class V>
+  void Visit(V& v) const {
+    v.Number("theta_initial_estimate", ThetaInitial);
+    v.Number("tau_estimate", Tau);
+  }
 };
 
 [[nodiscard]] MomentEstimates EstimateByMoments(double k, double var_k);

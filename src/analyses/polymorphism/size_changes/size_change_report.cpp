@@ -66,7 +66,7 @@ std::string SpectrumText(const SizeChangeResult& r) {
     text += Line("=================== Population Size Change ===================");
     text += Line(" Theta Initial: " + Format(r.Parameters.ThetaInitial, "0.000"));
     text += Line(" Theta Final: " + Format(r.Parameters.ThetaFinal, "0.000"));
-    text += Line(" Time: " + Format(r.Time, "0.000") + "N generations");
+    text += Line(" Time: " + Format(r.Time.value_or(0.0), "0.000") + "N generations");
   } else {
     text += Line(" ====  Expected Values for Constant Population Size  =====");
   }

@@ -54,7 +54,7 @@ std::vector<std::string> GcGridTitles() {
 
 std::vector<std::string> GcGridRow(const GcWindow& row) {
   return {WindowCell(row.Window),    Format(row.Window.Midpoint, "@@@@@"),
-          Format(row.GC, "0.00000"), Format(row.AT, "0.00000"),
+          Format(row.GC.value_or(0.0), "0.00000"), Format(row.AT.value_or(0.0), "0.00000"),
           Format(row.G, "@@@@"),     Format(row.C, "@@@@")};
 }
 
@@ -67,8 +67,8 @@ GraphData GcGraph(const GcWindows& windows) {
   for (const GcWindow& w : windows.Rows) {
     ++row;
     graph.Table.at(row, 1) = static_cast<float>(w.Window.Midpoint);
-    graph.Table.at(row, 2) = static_cast<float>(w.GC);
-    graph.Table.at(row, 3) = static_cast<float>(w.AT);
+    graph.Table.at(row, 2) = static_cast<float>(w.GC.value_or(0.0));
+    graph.Table.at(row, 3) = static_cast<float>(w.AT.value_or(0.0));
     graph.Table.at(row, 4) = static_cast<float>(w.G);
     graph.Table.at(row, 5) = static_cast<float>(w.C);
   }

@@ -2,9 +2,11 @@
 // Base composition along a sliding window (the G+C variant of the DNA polymorphism window):
 // in each window the nucleotides of the selected sequences are counted over its sites, gaps
 // and missing data left out; G+C and A+T are the shares of G plus C and of A plus T among the
-// counted nucleotides, G and C their counts. A window without a nucleotide has shares of 0.
+// counted nucleotides, G and C their counts. A window without a nucleotide has no shares (none;
+// its grid row and graph show 0).
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,16 +19,31 @@ namespace ovelt {
 
 struct GcWindow {
   WindowBounds Window;
-  double GC = 0.0;
-  double AT = 0.0;
+  std::optional<double> GC;
+  std::optional<double> AT;
   int64_t G = 0;
   int64_t C = 0;
+
+  template <class V>
+  void Visit(V& v) const {
+    Window.Visit(v);
+    v.Optional("gc_content", GC);
+    v.Optional("at_content", AT);
+    v.Integer("g_count", G);
+    v.Integer("c_count", C);
+  }
 };
 
 struct GcWindows {
   SlidingWindowSpec Geometry;
   int32_t Capacity = 0;
   std::vector<GcWindow> Rows;
+
+  template <class V>
+  void Visit(V& v) const {
+    Geometry.Visit(v);
+    v.Array("windows", Rows);
+  }
 };
 
 // Over from..to of the first selection, with the geometry of the other window drivers.

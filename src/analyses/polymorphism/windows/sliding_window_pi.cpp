@@ -44,8 +44,9 @@ std::string WindowCell(const WindowBounds& window) {
 }
 
 std::vector<std::string> PiThetaGridRow(const PiThetaWindow& row) {
-  return {WindowCell(row.Window), Format(row.Window.Midpoint, "@@@@@"), Format(row.Pi, "0.00000"),
-          Format(row.Theta, "0.00000"), Format(row.SegSites, "@@@@")};
+  return {WindowCell(row.Window), Format(row.Window.Midpoint, "@@@@@"),
+          Format(row.Pi.value_or(0.0), "0.00000"), Format(row.Theta.value_or(0.0), "0.00000"),
+          Format(row.SegSites, "@@@@")};
 }
 
 GraphData PiThetaGraph(const PiThetaWindows& windows) {
@@ -56,8 +57,8 @@ GraphData PiThetaGraph(const PiThetaWindows& windows) {
   for (const PiThetaWindow& w : windows.Rows) {
     ++row;
     graph.Table.at(row, 1) = static_cast<float>(w.Window.Midpoint);
-    graph.Table.at(row, 2) = static_cast<float>(w.Pi);
-    graph.Table.at(row, 3) = static_cast<float>(w.Theta);
+    graph.Table.at(row, 2) = static_cast<float>(w.Pi.value_or(0.0));
+    graph.Table.at(row, 3) = static_cast<float>(w.Theta.value_or(0.0));
     graph.Table.at(row, 4) = static_cast<float>(w.SegSites);
   }
   graph.Table.RowsUsed = row;

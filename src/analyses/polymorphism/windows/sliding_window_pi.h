@@ -3,9 +3,10 @@
 // (the window driver of the DNA polymorphism analysis). In each window k is the sum of the
 // per-site gene diversities of its net sites and S the number of those above 0; Pi = k / net
 // sites and Theta = S / (net sites a1) (Nei 1987, Watterson 1975). A window without net sites
-// has Pi and Theta 0.
+// has no Pi nor Theta (none; its grid row and graph show 0).
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,15 +19,29 @@ namespace ovelt {
 
 struct PiThetaWindow {
   WindowBounds Window;
-  double Pi = 0.0;
-  double Theta = 0.0;
+  std::optional<double> Pi;
+  std::optional<double> Theta;  // per site
   int32_t SegSites = 0;
+
+  template <class V>
+  void Visit(V& v) const {
+    Window.Visit(v);
+    v.Optional("pi", Pi);
+    v.Optional("theta_site", Theta);
+    v.Integer("segregating_sites", SegSites);
+  }
 };
 
 struct PiThetaWindows {
   SlidingWindowSpec Geometry;
   int32_t Capacity = 0;  // R, the most windows the region could hold
   std::vector<PiThetaWindow> Rows;
+
+  template <class V>
+  void Visit(V& v) const {
+    Geometry.Visit(v);
+    v.Array("windows", Rows);
+  }
 };
 
 // Over from..to of the first selection. The gauge rises with row / R.
