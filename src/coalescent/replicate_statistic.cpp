@@ -119,8 +119,9 @@ std::optional<double> ReplicateStatistic(int code, const StatisticConstants& k,
     case kCodeFs: {
       if (r.Pi == 0.0) return std::nullopt;
       const int32_t h = HaplotypePartition(*r.Pairs, scratch.FirstMembers, scratch.Sizes).h;
-      v = FsStatistic(n, h, r.Pi).Fs;
-      if (v == kFsOutOfRange) return std::nullopt;
+      const std::optional<double> fs = FsStatistic(n, h, r.Pi).Fs;
+      if (!fs) return std::nullopt;
+      v = *fs;
       break;
     }
     case kCodeZnS:

@@ -34,19 +34,15 @@ FsResult FsStatistic(int32_t n, int32_t h, double theta) {
   result.PEqual = equal.ToDouble();
   if (fewer < kTiny) {
     // ln(1 - x) - ln(x), with x taken as it is: its digits are all there.
-    result.Fs = fewer.IsZero() ? kFsOutOfRange : (one - fewer).Ln() - fewer.Ln();
+    if (!fewer.IsZero()) result.Fs = (one - fewer).Ln() - fewer.Ln();
   } else if (fewer >= kNearOne && equal < kTiny) {
     // P(K >= h) is lost in 1 - x; its leading term P(K = h) stands for it.
     result.Fs = equal.Ln() - fewer.Ln();
-  } else if (fewer >= kNearOne && !equal.IsZero()) {
-    result.Fs = kFsOutOfRange;
-  } else {
+  } else if (fewer < kNearOne || equal.IsZero()) {
+    // Out of range when neither tail has digits left.
     const Decimal36 at_least_h = one - fewer;  // y = P(K >= h)
-    if (at_least_h.IsZero() || at_least_h == one) {
-      result.Fs = kFsOutOfRange;
-    } else {
+    if (!at_least_h.IsZero() && !(at_least_h == one))
       result.Fs = at_least_h.Ln() - (one - at_least_h).Ln();
-    }
   }
   return result;
 }

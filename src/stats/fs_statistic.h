@@ -4,17 +4,15 @@
 // infinite-alleles distribution of the haplotype count K (Ewens 1972), S' = P(K >= h) and
 // Fs = ln(S' / (1 - S')); Strobeck's S = P(K <= h). Probabilities are summed in 36-digit
 // decimal arithmetic. A value out of range (no sample with fewer haplotypes, or tails beyond
-// what the logarithms can tell apart) is the mark 1234567.
+// what the logarithms can tell apart) is not determined; the reports print it as 1234567.
 
 #include <cstdint>
+#include <optional>
 
 namespace ovelt {
 
-// Marks an Fs that cannot be computed; it prints as it stands.
-inline constexpr double kFsOutOfRange = 1234567.0;
-
 struct FsResult {
-  double Fs = 0.0;
+  std::optional<double> Fs;  // none when out of range
   double StrobeckS = 0.0;  // P(K <= h)
   double PEqual = 0.0;     // P(K = h)
 };

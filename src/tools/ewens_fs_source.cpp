@@ -6,8 +6,7 @@ namespace ovelt {
 
 EwensTail FsEwensTail(int32_t n, int32_t h, double theta) {
   const FsResult r = FsStatistic(n, h, theta);
-  return {r.PEqual, r.StrobeckS,
-          r.Fs == kFsOutOfRange ? std::nullopt : std::optional<double>(r.Fs)};
+  return {r.PEqual, r.StrobeckS, r.Fs};
 }
 
 }  // namespace ovelt

@@ -26,7 +26,7 @@ TEST(FuLiTest, FiveSequencesCountingMutations) {
   ASSERT_TRUE(r.Haplotypes.has_value());
   ASSERT_TRUE(r.Fs.has_value());
   const double p5 = std::pow(2.9, 4) / (3.9 * 4.9 * 5.9 * 6.9);
-  EXPECT_NEAR(r.Fs->Fs, std::log(p5 / (1.0 - p5)), 1e-12);
+  EXPECT_NEAR(r.Fs->Fs.value(), std::log(p5 / (1.0 - p5)), 1e-12);
   EXPECT_NEAR(r.Fs->StrobeckS, 1.0, 1e-15);
   EXPECT_NEAR(r.Fs->PEqual, p5, 1e-15);
   EXPECT_EQ(FuLiReportBody(r),
@@ -92,7 +92,6 @@ TEST(FuLiTest, DifferencesOnlyAtGapSitesGiveNoFs) {
 
 TEST(FuLiTest, OutOfRangeFsPrintsItsMark) {
   FsResult fs;
-  fs.Fs = kFsOutOfRange;
   fs.StrobeckS = 0.25;
   fs.PEqual = 0.125;
   EXPECT_EQ(FsLines(fs, 12),

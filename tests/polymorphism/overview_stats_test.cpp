@@ -70,7 +70,7 @@ TEST(OverviewStats, FiveSequencesByHand) {
   ASSERT_TRUE(o.Fs.has_value());
   EXPECT_NEAR(o.Fs->PEqual, p5, 1e-12);
   EXPECT_NEAR(o.Fs->StrobeckS, 1.0, 1e-12);
-  EXPECT_NEAR(o.Fs->Fs, std::log(p5) - std::log(1 - p5), 1e-9);
+  EXPECT_NEAR(o.Fs->Fs.value(), std::log(p5) - std::log(1 - p5), 1e-9);
 }
 
 TEST(OverviewStats, ReportLines) {

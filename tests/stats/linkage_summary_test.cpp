@@ -103,26 +103,26 @@ TEST(LinkageFromColumns, HandWorked) {
     for (int32_t b = a + 1; b < 3; ++b)
       EXPECT_NEAR(TextbookR2(m, a, b), (a == 0 && b == 2) ? 1.0 : 1.0 / 3.0, 1e-12);
   const LinkageSummary z = LinkageFromColumns(m.View(), m.MajorFlip());
-  EXPECT_NEAR(*z.ZnS, 5.0 / 9.0, 1e-12);
-  EXPECT_NEAR(*z.Za, 1.0 / 3.0, 1e-12);
-  EXPECT_NEAR(*z.ZZ, 1.0 / 3.0 - 5.0 / 9.0, 1e-12);
+  EXPECT_NEAR(z.ZnS.value(), 5.0 / 9.0, 1e-12);
+  EXPECT_NEAR(z.Za.value(), 1.0 / 3.0, 1e-12);
+  EXPECT_NEAR(z.ZZ.value(), 1.0 / 3.0 - 5.0 / 9.0, 1e-12);
 }
 
 TEST(LinkageFromColumns, OrientationDoesNotChangeRSquared) {
   const BinaryMatrix m = BinaryMatrix::FromRows({"1011", "1001", "0011", "0100", "1111"});
   const LinkageSummary by_major = LinkageFromColumns(m.View(), m.MajorFlip());
   const LinkageSummary all_flipped = LinkageFromColumns(m.View(), {1, 1, 1, 1});
-  EXPECT_NEAR(*by_major.ZnS, *all_flipped.ZnS, 1e-12);
-  EXPECT_NEAR(*by_major.Za, *all_flipped.Za, 1e-12);
+  EXPECT_NEAR(by_major.ZnS.value(), all_flipped.ZnS.value(), 1e-12);
+  EXPECT_NEAR(by_major.Za.value(), all_flipped.Za.value(), 1e-12);
 }
 
 TEST(LinkageFromColumns, MonomorphicColumnCountsWithZero) {
   // One pair, with a column that does not vary: its R^2 is 0 and it still counts.
   const BinaryMatrix m = BinaryMatrix::FromRows({"10", "10", "00", "00"});
   const LinkageSummary z = LinkageFromColumns(m.View(), m.MajorFlip());
-  EXPECT_EQ(*z.ZnS, 0.0);
-  EXPECT_EQ(*z.Za, 0.0);
-  EXPECT_EQ(*z.ZZ, 0.0);
+  EXPECT_EQ(z.ZnS.value(), 0.0);
+  EXPECT_EQ(z.Za.value(), 0.0);
+  EXPECT_EQ(z.ZZ.value(), 0.0);
 }
 
 TEST(LinkageFromColumns, FewerThanTwoColumnsDetermineNothing) {
@@ -150,13 +150,13 @@ TEST(LinkageFromColumns, RandomMatricesAgreeWithThePlainSums) {
         const BinaryMatrix m = BinaryMatrix::Random(n, s, ones, rng);
         const LinkageSummary expected = PlainLinkage(m);
         const LinkageSummary z = LinkageFromColumns(m.View(), m.MajorFlip());
-        EXPECT_NEAR(*z.ZnS, *expected.ZnS, 1e-12) << n << " x " << s;
-        EXPECT_NEAR(*z.Za, *expected.Za, 1e-12) << n << " x " << s;
-        EXPECT_NEAR(*z.ZZ, *expected.ZZ, 1e-12) << n << " x " << s;
+        EXPECT_NEAR(z.ZnS.value(), expected.ZnS.value(), 1e-12) << n << " x " << s;
+        EXPECT_NEAR(z.Za.value(), expected.Za.value(), 1e-12) << n << " x " << s;
+        EXPECT_NEAR(z.ZZ.value(), expected.ZZ.value(), 1e-12) << n << " x " << s;
         // The packed counts go through the very steps of DisequilibriumFromCounts.
         const LinkageSummary same = ThroughPairCounts(m, m.MajorFlip());
-        EXPECT_EQ(*z.ZnS, *same.ZnS) << n << " x " << s;
-        EXPECT_EQ(*z.Za, *same.Za) << n << " x " << s;
+        EXPECT_EQ(z.ZnS.value(), same.ZnS.value()) << n << " x " << s;
+        EXPECT_EQ(z.Za.value(), same.Za.value()) << n << " x " << s;
       }
     }
   }

@@ -18,16 +18,16 @@ TEST(WallFromColumns, AllAdjacentPairsCongruent) {
   // Columns 1100, 0011 (the complement), 1100: two congruent pairs in one run.
   const BinaryMatrix m = BinaryMatrix::FromRows({"101", "101", "010", "010"});
   const WallBQ w = WallFromColumns(m.View());
-  EXPECT_DOUBLE_EQ(*w.B, 2.0 / 2.0);
-  EXPECT_DOUBLE_EQ(*w.Q, (2.0 + 1.0) / 3.0);
+  EXPECT_DOUBLE_EQ(w.B.value(), 2.0 / 2.0);
+  EXPECT_DOUBLE_EQ(w.Q.value(), (2.0 + 1.0) / 3.0);
 }
 
 TEST(WallFromColumns, NoCongruentPair) {
   // Columns 1000, 0100, 0010: no two split the sequences alike.
   const BinaryMatrix m = BinaryMatrix::FromRows({"100", "010", "001", "000"});
   const WallBQ w = WallFromColumns(m.View());
-  EXPECT_EQ(*w.B, 0.0);
-  EXPECT_EQ(*w.Q, 0.0);
+  EXPECT_EQ(w.B.value(), 0.0);
+  EXPECT_EQ(w.Q.value(), 0.0);
 }
 
 TEST(WallFromColumns, TwoRunsOfCongruentPairs) {
@@ -36,16 +36,16 @@ TEST(WallFromColumns, TwoRunsOfCongruentPairs) {
   const BinaryMatrix m =
       BinaryMatrix::FromRows({"110110", "110001", "001111", "001000", "001000"});
   const WallBQ w = WallFromColumns(m.View());
-  EXPECT_DOUBLE_EQ(*w.B, 3.0 / 5.0);
-  EXPECT_DOUBLE_EQ(*w.Q, (3.0 + 2.0) / 6.0);
+  EXPECT_DOUBLE_EQ(w.B.value(), 3.0 / 5.0);
+  EXPECT_DOUBLE_EQ(w.Q.value(), (3.0 + 2.0) / 6.0);
 }
 
 TEST(WallFromColumns, RunOpenAtTheLastColumnCounts) {
   // Columns 1000, 0100, 0100, 1011: pairs no, congruent, congruent; one run closed by the end.
   const BinaryMatrix m = BinaryMatrix::FromRows({"1001", "0110", "0001", "0001"});
   const WallBQ w = WallFromColumns(m.View());
-  EXPECT_DOUBLE_EQ(*w.B, 2.0 / 3.0);
-  EXPECT_DOUBLE_EQ(*w.Q, (2.0 + 1.0) / 4.0);
+  EXPECT_DOUBLE_EQ(w.B.value(), 2.0 / 3.0);
+  EXPECT_DOUBLE_EQ(w.Q.value(), (2.0 + 1.0) / 4.0);
 }
 
 TEST(WallFromColumns, FewerThanTwoColumnsDetermineNothing) {
@@ -98,8 +98,8 @@ TEST(WallFromColumns, AgreesWithTheCountOfTwoSiteHaplotypes) {
     }
     const auto [congruent, runs] = CongruentPairsAndRuns(m);
     const WallBQ w = WallFromColumns(m.View());
-    EXPECT_DOUBLE_EQ(*w.B, static_cast<double>(congruent) / (s - 1));
-    EXPECT_DOUBLE_EQ(*w.Q, static_cast<double>(congruent + runs) / s);
+    EXPECT_DOUBLE_EQ(w.B.value(), static_cast<double>(congruent) / (s - 1));
+    EXPECT_DOUBLE_EQ(w.Q.value(), static_cast<double>(congruent + runs) / s);
   }
 }
 

@@ -48,7 +48,7 @@ TEST(EwensTab, AHandWorkedSample) {
   const EwensResult r = ComputeEwens({3, 2, 1.0}, StirlingTail);
   EXPECT_NEAR(r.PEqual, 0.5, 1e-15);
   EXPECT_NEAR(r.StrobeckS, 5.0 / 6, 1e-15);
-  EXPECT_NEAR(*r.Fs, std::log(2.0), 1e-12);
+  EXPECT_NEAR(r.Fs.value(), std::log(2.0), 1e-12);
   EXPECT_NEAR(r.Expected, 11.0 / 6, 1e-15);
 }
 

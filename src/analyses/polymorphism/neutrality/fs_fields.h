@@ -9,7 +9,7 @@
 namespace ovelt {
 
 [[nodiscard]] inline std::optional<double> DeterminedFs(const std::optional<FsResult>& fs) {
-  if (!fs || fs->Fs == kFsOutOfRange) return std::nullopt;
+  if (!fs) return std::nullopt;
   return fs->Fs;
 }
 

@@ -5,6 +5,7 @@
 #include "analyses/polymorphism/neutrality/neutrality_window_report.h"
 #include "analyses/polymorphism/neutrality/tajima_report.h"
 #include "core/line_end.h"
+#include "analyses/polymorphism/common/fs_text.h"
 #include "output/format_mask.h"
 #include "stats/significance_words.h"
 
@@ -30,7 +31,7 @@ bool AnyNotDetermined(const FuLiWindows& windows) {
 
 std::string FsLines(const FsResult& fs, int32_t haplotypes) {
   std::string t;
-  t += Line(" Fu's Fs statistic: ", Format(fs.Fs, "0.000"));
+  t += Line(" Fu's Fs statistic: ", FsText(fs.Fs, "0.000"));
   t += Line(" Strobeck's S statistic: ", Format(fs.StrobeckS, "0.000"));
   t += Line("    (Probability that NHap <= " + StrNum(haplotypes), ")");
   t += Line(" Probability that [NHap = " + StrNum(haplotypes) + "]: ", Format(fs.PEqual, "0.000"));

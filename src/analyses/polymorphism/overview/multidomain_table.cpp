@@ -1,5 +1,6 @@
 #include "analyses/polymorphism/overview/multidomain_table.h"
 
+#include "analyses/polymorphism/common/fs_text.h"
 #include "output/format_mask.h"
 
 namespace ovelt {
@@ -71,7 +72,7 @@ std::vector<std::string> MultiDomainCells(const MultiDomainRow& row) {
       MarkCell(o.FuLiDStar),
       TestCell(o.FuLiFStar),
       MarkCell(o.FuLiFStar),
-      o.Fs ? Format(o.Fs->Fs, "0.000") : "n.d.",
+      o.Fs ? FsText(o.Fs->Fs, "0.000") : "n.d.",
       GcCell(o.Gc.NonCoding),
       GcCell(o.Gc.Coding),
       GcCell(o.Gc.Total),

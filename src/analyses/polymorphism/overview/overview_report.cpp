@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/line_end.h"
+#include "analyses/polymorphism/common/fs_text.h"
 #include "output/format_mask.h"
 #include "stats/significance_words.h"
 
@@ -86,7 +87,7 @@ std::string OverviewReportText(const OverviewStats& o) {
     text += TestLines(" Fu and Li's F* test statistic: ", o.FuLiFStar, MarkFamily::kFuLi);
   }
   if (o.Fs) {
-    text += Line(" Fu's Fs statistic: " + Format(o.Fs->Fs, "0.000"));
+    text += Line(" Fu's Fs statistic: " + FsText(o.Fs->Fs, "0.000"));
     text += Line(" Strobeck's S statistic: " + Format(o.Fs->StrobeckS, "0.000"));
     text += Line("    (Probability that NHap <= " + StrNum(o.Haplotypes) + ")");
     text += Line(" Probability that [NHap = " + StrNum(o.Haplotypes) +
