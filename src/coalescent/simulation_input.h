@@ -10,7 +10,6 @@
 
 namespace ovelt {
 
-inline constexpr int16_t kCoalescentCommand = 19;
 inline constexpr int32_t kUnsetSeedReplacement = 111295;  // a seed of 0 runs as this one
 
 enum class GivenMode { kTheta, kSegSites };

@@ -11,8 +11,7 @@
 
 namespace ovelt {
 
-// The command's number in the command table, and its result's code in the title table.
-inline constexpr int16_t kDistributionsCommand = 42;
+// The code of the result in the table of titles (the command is number 42).
 inline constexpr int16_t kDistributionsResultCode = 41;
 inline constexpr const char* kDistributionsCaption = "Discrete Distributions";
 

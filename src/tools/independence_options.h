@@ -9,9 +9,6 @@
 
 namespace ovelt {
 
-// The command's number in the command table, and its result's code in the title table.
-inline constexpr int16_t kIndependenceCommand = 41;
-inline constexpr int16_t kIndependenceResultCode = 40;
 inline constexpr const char* kIndependenceCaption = "Tests of Independence";
 
 struct IndependenceOptions {

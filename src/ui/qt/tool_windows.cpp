@@ -1,7 +1,6 @@
 #include "ui/qt/tool_windows.h"
 
-#include "tools/distribution_options.h"
-#include "tools/independence_options.h"
+#include "core/command_id.h"
 #include "ui/qt/calculator_window.h"
 #include "ui/qt/distributions_window.h"
 #include "ui/qt/independence_window.h"
@@ -13,9 +12,9 @@ namespace {
 
 // A calculator with a number in the command table: the command runs while its window is open.
 template <class Window, class... Extra>
-void RunToolCommand(MainWindow& window, int16_t number, Extra... extra) {
+void RunToolCommand(MainWindow& window, CommandId id, Extra... extra) {
   Workbench& wb = window.Bench();
-  if (!wb.BeginCommand(number)) return;
+  if (!wb.BeginCommand(Number(id))) return;
   Window tool(wb, extra..., &window);
   tool.exec();
   wb.EndCommand();
@@ -26,13 +25,13 @@ void RunToolCommand(MainWindow& window, int16_t number, Extra... extra) {
 void AddToolHandlers(MainWindow& window) {
   MainWindow* main = &window;
   window.AddHandler("MenuIndependence_Click", [main] {
-    RunToolCommand<IndependenceWindow>(*main, kIndependenceCommand);
+    RunToolCommand<IndependenceWindow>(*main, CommandId::kIndependence);
   });
   window.AddHandler("MenuDDistributions_Click", [main] {
-    RunToolCommand<DistributionsWindow>(*main, kDistributionsCommand);
+    RunToolCommand<DistributionsWindow>(*main, CommandId::kDistributions);
   });
   window.AddHandler("MenuGeneCoal_Click", [main] {
-    RunToolCommand<CoalescentWindow>(*main, kCoalescentCommand,
+    RunToolCommand<CoalescentWindow>(*main, CommandId::kCoalescent,
                                      SeedSuggestion(SuggestSeedFromClock));
   });
   window.AddHandler("MenuCalculator_Click", [main] {
