@@ -103,13 +103,13 @@ TEST_F(MainWindowTest, DataInformationGoesToTheTextWindow) {
   window.Bench().Output().Labels = FindEntry(CommandId::kFuLiOutgroup)->Facts.Labels;
   window.Trigger("DataInformacion_Click");
   EXPECT_FALSE(window.Text()->windowTitle().contains("Fu and Li"));
-  ASSERT_TRUE(window.Text()->isVisible());
+  ASSERT_TRUE(window.Shows(window.Text()));
   EXPECT_TRUE(window.Text()->Report().contains(" Total Number of Sequences     4"));
   // The second status panel names the results on show, and empties when they go.
   EXPECT_EQ(window.ResultsPanelText(), "Data Information");
   p.Answers.push_back(MsgAnswer::kYes);
   window.Trigger("del_Click");
-  EXPECT_FALSE(window.Text()->isVisible());
+  EXPECT_FALSE(window.Shows(window.Text()));
   EXPECT_EQ(window.ResultsPanelText(), "");
 }
 
@@ -124,12 +124,12 @@ TEST_F(MainWindowTest, SecondGridShowsWithItsCaptionAndGoesWithTheNextRun) {
   channel.Grid2.Rows.push_back({"TTT", "4"});
   channel.ShowResult(kResultSecondGrid);
   window.Refresh();
-  ASSERT_TRUE(window.SecondGrid()->isVisible());
+  ASSERT_TRUE(window.Shows(window.SecondGrid()));
   EXPECT_EQ(window.SecondGrid()->windowTitle(), "Codon Usage of:");
-  EXPECT_FALSE(window.Grid()->isVisible());
+  EXPECT_FALSE(window.Shows(window.Grid()));
   channel.ResetOutputs();
   window.Refresh();
-  EXPECT_FALSE(window.SecondGrid()->isVisible());
+  EXPECT_FALSE(window.Shows(window.SecondGrid()));
 }
 
 TEST_F(MainWindowTest, Form17WritesOnlyOnOk) {
