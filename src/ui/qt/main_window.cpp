@@ -60,7 +60,10 @@ MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* par
   // The title of the results on show, next to the clock.
   statusBar()->addPermanentWidget(results_);
   statusBar()->addPermanentWidget(clock_);
-  if (qt_platform_ != nullptr) qt_platform_->Attach(this, status_, gauge_);
+  if (qt_platform_ != nullptr) {
+    qt_platform_->Attach(this, status_, gauge_);
+    qt_platform_->SetDialogs([this](const std::string& form) { return OpenNamedDialog(form); });
+  }
   status_->setText(kIdleStatus);
 
   // The date and time in the status bar, refreshed by a timer: "dd/mm/yy hh:mm".
@@ -102,7 +105,9 @@ MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* par
   Refresh();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+  if (qt_platform_ != nullptr) qt_platform_->SetDialogs(nullptr);
+}
 
 void MainWindow::RegisterHandlers() {
   Workbench& wb = workbench_;
@@ -179,6 +184,18 @@ QString MainWindow::StatusText() const {
 
 QString MainWindow::ResultsPanelText() const {
   return results_->text();
+}
+
+bool MainWindow::OpenNamedDialog(const std::string& form_name) {
+  // The table of preferred codons has its editor; the Data menu's dialogs are told by name.
+  if (form_name == "PrefUnprefTable") {
+    auto editor = handlers_.find("MenuGCPreferentTable_Click");
+    if (editor == handlers_.end()) return false;
+    editor->second();
+    Refresh();
+    return true;
+  }
+  return ShowDataDialog(*this, form_name);
 }
 
 void MainWindow::Trigger(const std::string& handler) {

@@ -62,6 +62,11 @@ class MainWindow : public QMainWindow {
     return handlers_.count(handler) > 0;
   }
 
+  // Opens one of the program's dialogs by its form name ("dlgDefPop", "Form14",
+  // "PrefUnprefTable", ...), as the Yes of a refusal that offers to define what is missing
+  // does. True when the user confirmed it; false for a name without a dialog here.
+  bool OpenNamedDialog(const std::string& form_name);
+
   // Brings menus, captions, title and result windows in line with the model.
   void Refresh();
 
