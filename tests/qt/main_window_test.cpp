@@ -14,6 +14,8 @@
 #include "shell/command_registry.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
+#include "shell/data_information.h"
+#include "ui/qt/data_info_window.h"
 #include "ui/qt/grid_window.h"
 #include "ui/qt/include_dialog.h"
 #include "ui/qt/main_window.h"
@@ -174,6 +176,32 @@ TEST_F(MainWindowTest, IncludeDialogStaysOpenWhenNothingIsTicked) {
   EXPECT_EQ(p.Boxes.front().Text, "The active data file must contain at least one sequence.");
   EXPECT_EQ(window.Bench().Data().NumSeqs, 3);
   EXPECT_EQ(window.Bench().Data().SiteClass[3], kMonomorphic);
+}
+
+// The Data Information grid shows all its rows: nothing of it is scrolled out of sight.
+TEST(DataInfoWindowTest, TallAndWideEnoughForEveryRow) {
+  TempDir dir;
+  ScriptedPlatform p;
+  p.ProgramDir = dir.Path().string();
+  Workbench wb(p);
+  ASSERT_TRUE(wb.OpenPath(OVELT_EXAMPLES "/example.fas"));
+  const std::vector<InfoRow> rows = DataInformationRows(wb.Data());
+  DataInfoWindow window(rows, [] {});
+  window.show();
+  QApplication::processEvents();
+  QTableWidget* table = window.Table();
+  ASSERT_EQ(table->rowCount(), 15);
+  const QRect seen = table->viewport()->rect();
+  for (int r = 0; r < table->rowCount(); ++r)
+    for (int c = 0; c < 2; ++c)
+      EXPECT_TRUE(seen.contains(table->visualItemRect(table->item(r, c)))) << r << "," << c;
+}
+
+TEST(QtFilter, TheOpenDialogTakesTheCommonExtensionsOfEveryFormat) {
+  const QString filters = QtFilterFrom(kOpenDialogFilter);
+  EXPECT_TRUE(filters.startsWith("All Data Files (*.fas *.meg *.nbr *.nex *.phy *.pir *.fasta *.fa "
+                                 "*.fna *.nexus *.nxs *.phylip *.mega);;FASTA Files (*.fas);;"))
+      << filters.toStdString();
 }
 
 TEST(QtFilter, ClassicFilterBecomesQtFilters) {
