@@ -29,6 +29,13 @@ YAxis FixedAxis(double bottom, double top, const std::vector<std::string>& label
 
 }  // namespace
 
+std::string AxisLabel(double value, std::string_view mask) {
+  // "0.#####" leaves the point of a whole number behind it ("0.", "5."); an axis reads "0", "5".
+  std::string label = Format(value, mask);
+  if (label.size() > 1 && label.back() == '.') label.pop_back();
+  return label;
+}
+
 YAxis MakeYAxis(double low, double high, std::string_view mask) {
   if (high < low) std::swap(low, high);
   YAxis axis;
@@ -43,7 +50,7 @@ YAxis MakeYAxis(double low, double high, std::string_view mask) {
   for (int64_t i = 0; i <= ticks; ++i) {
     double value = axis.Bottom + static_cast<double>(i) * axis.Step;
     if (std::fabs(value) < axis.Step * kSlack) value = 0.0;
-    axis.Ticks.push_back({value, i % every == 0 ? Format(value, mask) : std::string()});
+    axis.Ticks.push_back({value, i % every == 0 ? AxisLabel(value, mask) : std::string()});
   }
   return axis;
 }

@@ -20,6 +20,10 @@ struct YAxis {
   std::vector<AxisTick> Ticks;  // from the bottom up
 };
 
+// A tick's label: the value through `mask`, without the point a whole number is left with
+// ("0." reads "0").
+[[nodiscard]] std::string AxisLabel(double value, std::string_view mask);
+
 // Ticks every step from the multiple of the step at or below `low` to the one at or above
 // `high`, labelled with `mask` on every first, second or third tick (LabelEvery of the integer
 // part of (high - low) / step).

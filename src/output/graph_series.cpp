@@ -45,10 +45,10 @@ std::vector<GraphSeries> SeriesOffered(const GraphData& graph) {
     case kGraphDivergence: {
       std::vector<GraphSeries> offered = OnePerColumn({"Pi[1]", "Pi[2]", "Dxy", "Da"}, columns);
       AddCombined(offered,
-                  {{"Pi[1] && Pi[2]", {2, 3}},
-                   {"Dxy && Da", {4, 5}},
-                   {"Pi[1] && Pi[2] && Dxy", {2, 3, 4}},
-                   {"Pi[1] && Pi[2] && Da", {2, 3, 5}}},
+                  {{"Pi[1] & Pi[2]", {2, 3}},
+                   {"Dxy & Da", {4, 5}},
+                   {"Pi[1] & Pi[2] & Dxy", {2, 3, 4}},
+                   {"Pi[1] & Pi[2] & Da", {2, 3, 5}}},
                   columns);
       return offered;
     }
@@ -66,7 +66,7 @@ std::vector<GraphSeries> SeriesOffered(const GraphData& graph) {
     }
     case kGraphCodingRatios: {
       std::vector<GraphSeries> offered = OnePerColumn({"K(a)/K(s)", "Pi(a)/Pi(s)"}, columns);
-      AddCombined(offered, {{"Pi && K", {3, 2}}}, columns);
+      AddCombined(offered, {{"Pi & K", {3, 2}}}, columns);
       return offered;
     }
     case kGraphPolymorphism:

@@ -52,6 +52,7 @@ void OutputChannel::ResetOutputs() {
   grid_text_head_.reset();
   graph_ = GraphData{};
   ++graph_serial_;
+  ++result_serial_;
   commands_.SaveCaption = "Save Current Output...";
   commands_.SaveEnabled = commands_.PrintEnabled = commands_.GraphButtonsEnabled = false;
 }

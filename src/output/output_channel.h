@@ -130,6 +130,8 @@ class OutputChannel {
   // Changes with every SetGraph and ResetOutputs, so a window can tell a new chart from the one
   // it shows.
   [[nodiscard]] int32_t GraphSerial() const { return graph_serial_; }
+  // Changes with every ResetOutputs: the windows of a new result can tell it from the last.
+  [[nodiscard]] int32_t ResultSerial() const { return result_serial_; }
 
   // The grid head of the saved text: the run's own, or that of the result's labels.
   void SetGridTextHead(const std::string& head);
@@ -179,6 +181,7 @@ class OutputChannel {
   std::optional<std::string> grid_text_head_;
   GraphData graph_;
   int32_t graph_serial_ = 0;
+  int32_t result_serial_ = 0;
   bool gauge_visible_ = false;
   int gauge_ = 0;
   std::string status_ = kIdleStatus;

@@ -60,6 +60,11 @@ class Platform {
   // such dialogs (the command line) answers false.
   virtual bool ShowDialog(const std::string& /*form_name*/) { return false; }
 
+  // A check before a command stopped it for want of what the dialog `form_name` defines (no
+  // sequence sets, no coding region, ...), whatever the answer to its question was. The command
+  // line names the flags that define it; a window has offered the dialog already.
+  virtual void DefinitionMissing(const std::string& /*form_name*/) {}
+
   // The "MEGA Data File" dialog; nullopt is Cancel.
   virtual std::optional<MegaOptions> AskMegaOptions(const std::string& file_name) = 0;
 

@@ -5,6 +5,10 @@
 
 namespace ovelt {
 
+namespace {
+constexpr int16_t kUniversalCode = 1;  // "Nuclear Universal"
+}  // namespace
+
 std::string FileKindName(int16_t kind) {
   switch (kind) {
     case kMega: return "MEGA";
@@ -22,6 +26,9 @@ std::vector<InfoRow> DataInformationRows(const ActiveData& d) {
                                ? "Interleaved (Block = " + std::to_string(f.BlockLength) + ")"
                                : "Sequential";
   const int32_t sets = d.SetCount();
+  // A file that names no genetic code (a NEXUS file without a CODONS block) is read with the
+  // universal one, as BuildGeneticCode does: the grid says so rather than leave the row blank.
+  const int16_t code = f.GeneticCodeIndex >= 1 ? f.GeneticCodeIndex : kUniversalCode;
   return {
       {"Number of Nucleotides", std::to_string(d.NumSites)},
       {"Total Number of Sequences", std::to_string(d.TotalSeqs)},
@@ -32,7 +39,7 @@ std::vector<InfoRow> DataInformationRows(const ActiveData& d) {
       {"Genome", GenomeStateText(f.GenomeState)},
       {"Chromosomal Location", ChromosomalLocationText(f.ChromosomalLocation)},
       {"Codon Assignation", f.CodingAssigned >= 1 ? "Yes" : "No"},
-      {"Genetic Code", GeneticCodeText(f.GeneticCodeIndex)},
+      {"Genetic Code", GeneticCodeText(code)},
       {"Preferred Codons Table", d.PrefTableName},
       {"Sequence Sets Definition", sets > 0 ? "Yes" : "No"},
       {"   Total Number of Subsets", sets > 0 ? std::to_string(sets) : "---"},

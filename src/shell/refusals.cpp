@@ -23,6 +23,18 @@ bool SetHasIncludedSequence(const PoblacionSecuencias& set, const ActiveData& da
   return false;
 }
 
+// The dialogs a refusal offers on Yes.
+constexpr const char* kSetsDialog = "dlgDefPop";
+constexpr const char* kCodingDialog = "Form14";
+constexpr const char* kPrefTableDialog = "PrefUnprefTable";
+
+// 1 when what the dialog defines is still missing (the command stops), else 0.
+int Stops(bool missing, const char* form_name, Platform& platform) {
+  if (!missing) return 0;
+  platform.DefinitionMissing(form_name);
+  return 1;
+}
+
 }  // namespace
 
 std::string InputFileLine(const ActiveData& data) {
@@ -50,10 +62,9 @@ int MensajeNoPobsDefined(const std::string& question, ActiveData& data, Platform
         "\nThe present analysis requires, at least, the definition of 2 Sets of Sequences. Do "
         "you want to define them?";
   }
-  if (platform.MessageBox(text, MsgIcon::kQuestion, MsgButtons::kYesNo) != MsgAnswer::kYes)
-    return 1;
-  platform.ShowDialog("dlgDefPop");
-  return data.SetCount() >= 2 ? 0 : 1;
+  if (platform.MessageBox(text, MsgIcon::kQuestion, MsgButtons::kYesNo) == MsgAnswer::kYes)
+    platform.ShowDialog(kSetsDialog);
+  return Stops(data.SetCount() < 2, kSetsDialog, platform);
 }
 
 int MensajeNoPobsDefined2(ActiveData& data, Platform& platform) {
@@ -61,20 +72,18 @@ int MensajeNoPobsDefined2(ActiveData& data, Platform& platform) {
   const std::string text =
       "No Sequence Sets (Populations) defined !\nThe present analysis requires, at least, one "
       "Set of Sequences.\nDo you want to define the Sequences Sets now ?";
-  if (platform.MessageBox(text, MsgIcon::kQuestion, MsgButtons::kYesNo) != MsgAnswer::kYes)
-    return 1;
-  platform.ShowDialog("dlgDefPop");
-  return data.SetCount() >= 1 ? 0 : 1;
+  if (platform.MessageBox(text, MsgIcon::kQuestion, MsgButtons::kYesNo) == MsgAnswer::kYes)
+    platform.ShowDialog(kSetsDialog);
+  return Stops(data.SetCount() < 1, kSetsDialog, platform);
 }
 
 int MensajeNoCodingRegionDefined(ActiveData& data, Platform& platform) {
   if (data.Format.CodingAssigned >= 1) return 0;
   const std::string text =
       "No Protein Coding Region Defined !\nDo you want to define the Protein Coding Region now ?";
-  if (platform.MessageBox(text, MsgIcon::kQuestion, MsgButtons::kYesNo) != MsgAnswer::kYes)
-    return 1;
-  platform.ShowDialog("Form14");
-  return data.Format.CodingAssigned >= 1 ? 0 : 1;
+  if (platform.MessageBox(text, MsgIcon::kQuestion, MsgButtons::kYesNo) == MsgAnswer::kYes)
+    platform.ShowDialog(kCodingDialog);
+  return Stops(data.Format.CodingAssigned < 1, kCodingDialog, platform);
 }
 
 int MensajeNoPrefUnPrefTablaDefined(ActiveData& data, Platform& platform) {
@@ -86,10 +95,9 @@ int MensajeNoPrefUnPrefTablaDefined(ActiveData& data, Platform& platform) {
   const std::string text =
       "There is no any Preferred/Unpreferred Codons Table assigned!\nDo you want to assign the "
       "table now?";
-  if (platform.MessageBox(text, MsgIcon::kQuestion, MsgButtons::kYesNo) != MsgAnswer::kYes)
-    return 1;
-  platform.ShowDialog("PrefUnprefTable");
-  return unassigned() ? 1 : 0;
+  if (platform.MessageBox(text, MsgIcon::kQuestion, MsgButtons::kYesNo) == MsgAnswer::kYes)
+    platform.ShowDialog(kPrefTableDialog);
+  return Stops(unassigned(), kPrefTableDialog, platform);
 }
 
 bool PassesCheck(Check check, const CommandFacts& facts, ActiveData& data, Platform& platform) {

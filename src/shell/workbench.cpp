@@ -31,6 +31,14 @@ bool CanOpenAgain(const std::string& path) {
   return path != kStandardInputPath && std::filesystem::is_regular_file(path, ec);
 }
 
+// The path the recent-files list keeps: whole, so that an entry opens the same file from any
+// working directory (a command line names files relative to where it runs).
+std::string ListedPath(const std::string& path) {
+  std::error_code ec;
+  const std::filesystem::path whole = std::filesystem::absolute(path, ec);
+  return ec ? path : whole.lexically_normal().string();
+}
+
 }  // namespace
 
 Workbench::Workbench(Platform& platform)
@@ -99,7 +107,7 @@ bool Workbench::fbLeer1(int index) {
   if (!path) return false;
   if (!Load(*path)) return false;
   if (TitleCode(data_.Analysis) != TitleCode(CommandId::kConcatenate) && CanOpenAgain(*path)) {
-    recent_.fActualizaCFA(*path, index);
+    recent_.fActualizaCFA(index == 0 ? ListedPath(*path) : *path, index);
     RefreshRecentMenu();
   }
   return true;
@@ -108,7 +116,7 @@ bool Workbench::fbLeer1(int index) {
 bool Workbench::OpenPath(const std::string& path) {
   if (!Load(path)) return false;
   if (TitleCode(data_.Analysis) != TitleCode(CommandId::kConcatenate) && CanOpenAgain(path)) {
-    recent_.fActualizaCFA(path, 0);
+    recent_.fActualizaCFA(ListedPath(path), 0);
     RefreshRecentMenu();
   }
   return true;

@@ -19,8 +19,11 @@ namespace ovelt {
 struct LoadedFile;
 
 inline constexpr const char* kOpenDialogTitle = "Open Data File";
+// A file's kind is read from its first line; "All Data Files" also takes the extensions other
+// programs of the field give the same formats.
 inline constexpr const char* kOpenDialogFilter =
-    "All Data Files|*.fas;*.meg;*.nbr;*.nex;*.phy;*.pir|FASTA Files (*.fas)|*.fas|MEGA Files "
+    "All Data Files|*.fas;*.meg;*.nbr;*.nex;*.phy;*.pir;*.fasta;*.fa;*.fna;*.nexus;*.nxs;"
+    "*.phylip;*.mega|FASTA Files (*.fas)|*.fas|MEGA Files "
     "(*.meg)|*.meg|NBRF/PIR files (*.nbr;*.pir)|*.nbr;*.pir|NEXUS files (*.nex)|*.nex|PHYLIP "
     "files (*.phy)|*.phy|All files (*.*)|*.*";
 inline constexpr const char* kVersionText = "Ver. 4.00.5";

@@ -192,5 +192,18 @@ TEST(Cli, RecentListsTheOpenedFiles) {
   EXPECT_TRUE(std::filesystem::exists(home.File("OVELTCFA.INI")));
 }
 
+// The recent-files list keeps whole paths, even of a file named relative to where the command
+// line runs.
+TEST(Cli, TheRecentListKeepsTheWholePathOfARelativeName) {
+  TempDir home;
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(std::filesystem::path(kExample).parent_path());
+  const auto r = RunOvelt({"info", "example.fas"}, home.Path().string());
+  std::filesystem::current_path(before);
+  EXPECT_EQ(r.status, 0) << r.err;
+  EXPECT_EQ(RunOvelt({"recent"}, home.Path().string()).out,
+            "1 " + std::filesystem::path(kExample).lexically_normal().string() + "\n");
+}
+
 }  // namespace
 }  // namespace ovelt

@@ -104,5 +104,38 @@ TEST_F(RefusalsCli, ARunWithoutEffectiveReplicatesSaysSo) {
   EXPECT_EQ(usual.err.find("effective replicates"), std::string::npos) << usual.err;
 }
 
+// A question that the desktop answers with a dialog ("Do you want to define them?") is
+// answered here by flags: the refusal names them, whatever the answer.
+TEST_F(RefusalsCli, ARefusalForWantOfSetsNamesTheFlagsThatDefineThem) {
+  const std::string line =
+      "On the command line, --set-def NAME=LIST defines a sequence set (one flag for each set); "
+      "--set NAME and --outgroup NAME take them for the run.\n";
+  for (const bool yes : {false, true}) {
+    std::vector<std::string> args = {"fu-li-outgroup", kExample};
+    if (yes) args.push_back("--yes");
+    const auto r = Run(args);
+    EXPECT_EQ(r.status, 1);
+    EXPECT_NE(r.err.find("Do you want to define them?"), std::string::npos) << r.err;
+    ASSERT_GE(r.err.size(), line.size());
+    EXPECT_EQ(r.err.substr(r.err.size() - line.size()), line) << r.err;
+  }
+  // With the sets given by flags the question is not asked.
+  const auto ok = Run({"fu-li-outgroup", kExample, "--set-def", "In=1-11", "--set-def", "Out=12",
+                       "--set", "In", "--outgroup", "Out"});
+  EXPECT_EQ(ok.status, 0) << ok.err;
+  EXPECT_EQ(ok.err.find("On the command line"), std::string::npos);
+}
+
+TEST_F(RefusalsCli, ARefusalForWantOfACodingRegionNamesItsFlag) {
+  const auto r = Run({"check", "codon-usage", kExample});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_NE(r.err.find("No Protein Coding Region Defined !"), std::string::npos) << r.err;
+  EXPECT_NE(r.err.find("On the command line, --coding FROM-TO[:FIRST] defines a protein coding "
+                       "region.\n"),
+            std::string::npos)
+      << r.err;
+  EXPECT_EQ(Run({"check", "codon-usage", kExample, "--coding", "1-900:1"}).status, 0);
+}
+
 }  // namespace
 }  // namespace ovelt

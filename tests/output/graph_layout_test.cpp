@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "output/graph_axis.h"
 #include "output/graph_series.h"
 
 namespace ovelt {
@@ -71,7 +72,7 @@ TEST(GraphLayoutTest, PolymorphismWindowsOnTheSeriesScale) {
                              {3, 9, 6, 0, 5}});
   const GraphPicture p = LayoutGraph(g, {0, false});
   ASSERT_TRUE(p.HasChart);
-  EXPECT_EQ(YLabels(p), (std::vector<std::string>{"0.012", "0.008", "0.004", "0."}));
+  EXPECT_EQ(YLabels(p), (std::vector<std::string>{"0.012", "0.008", "0.004", "0"}));
   // 50..150 holds 101 positions: "50" loses two digits, 0; the step is 20 (raw 20).
   EXPECT_EQ(XLabels(p), (std::vector<std::string>{"  60", "  80", " 100", " 120", " 140"}));
   EXPECT_EQ(Count(p, "Nucleotide Position"), 1);
@@ -98,8 +99,17 @@ TEST(GraphLayoutTest, SegregatingSitesScale) {
   EXPECT_EQ(Count(p, "S"), 1);
   const std::vector<std::string> labels = YLabels(p);
   ASSERT_EQ(labels.size(), 5u);
-  EXPECT_EQ(labels.back(), "0.");
-  EXPECT_EQ(labels.front(), "8.");
+  EXPECT_EQ(labels.back(), "0");
+  EXPECT_EQ(labels.front(), "8");
+}
+
+// "0.#####" leaves a point behind a whole number ("0.", "8."); an axis label drops it.
+TEST(GraphLayoutTest, AxisLabelsOfWholeNumbersHaveNoPoint) {
+  EXPECT_EQ(AxisLabel(0.0, "0.#####"), "0");
+  EXPECT_EQ(AxisLabel(8.0, "0.#####"), "8");
+  EXPECT_EQ(AxisLabel(-2.0, "0.####"), "-2");
+  EXPECT_EQ(AxisLabel(0.25, "0.#####"), "0.25");
+  EXPECT_EQ(AxisLabel(0.00005, "0.#####"), "0.00005");
 }
 
 TEST(GraphLayoutTest, SeriesOutOfRangeOrEmptyTableDrawsNothing) {
@@ -170,7 +180,7 @@ TEST(GraphLayoutTest, MismatchObservedAndExpected) {
   EXPECT_EQ(XLabels(p), (std::vector<std::string>{"   0", "   1", "   2", "   3", "   4", "   5",
                                                   "   6"}));
   // Up to 0.3: raw 0.06 -> 0.05, c = 6, every second tick of 0..0.3.
-  EXPECT_EQ(YLabels(p), (std::vector<std::string>{"0.3", "0.2", "0.1", "0."}));
+  EXPECT_EQ(YLabels(p), (std::vector<std::string>{"0.3", "0.2", "0.1", "0"}));
   ExpectDataInFrame(p);
 }
 
@@ -183,14 +193,14 @@ TEST(GraphLayoutTest, SnCurvesKeepTheirNamesAndAContinuousAxis) {
   EXPECT_EQ(Count(p, "n = 10"), 1);
   EXPECT_EQ(Count(p, "Time in generations"), 1);
   // 0..1.5: raw 0.3 -> 0.5, c = 3, every tick labelled.
-  EXPECT_EQ(XLabels(p), (std::vector<std::string>{"0.", "0.5", "1.", "1.5"}));
+  EXPECT_EQ(XLabels(p), (std::vector<std::string>{"0", "0.5", "1", "1.5"}));
 }
 
 TEST(GraphLayoutTest, CodingRatiosTogether) {
   const GraphData g = Table(16, {100, 300, 500}, {{0.2f, 0.5f, 0.3f}, {0.1f, 0.4f, 0.6f}});
   const GraphPicture p = LayoutGraph(g, {2, false});
   EXPECT_EQ(p.Polylines.size(), 2u);
-  EXPECT_EQ(Count(p, "Pi && K"), 1);
+  EXPECT_EQ(Count(p, "Pi & K"), 1);
   // The legend names each curve as the chooser does alone: Pi first, in the first colour.
   EXPECT_EQ(Count(p, "Pi(a)/Pi(s)"), 1);
   EXPECT_EQ(Count(p, "K(a)/K(s)"), 1);
@@ -215,7 +225,7 @@ TEST(GraphLayoutTest, LinkageRegressionAndItsEquation) {
   EXPECT_EQ(Count(p, "Y = 0.1 + 0.002 X"), 1);
   EXPECT_EQ(Count(p, "Nucleotide distance"), 1);
   // 0..0.22: raw 0.044 -> 0.05, c = 4: every tick, written with "0.####".
-  EXPECT_EQ(YLabels(p), (std::vector<std::string>{"0.25", "0.2", "0.15", "0.1", "0.05", "0."}));
+  EXPECT_EQ(YLabels(p), (std::vector<std::string>{"0.25", "0.2", "0.15", "0.1", "0.05", "0"}));
   EXPECT_EQ(p.Marks.size(), 6u);
   EXPECT_TRUE(p.Message.empty());
   ExpectDataInFrame(p);

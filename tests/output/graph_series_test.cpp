@@ -54,9 +54,9 @@ TEST(GraphSeriesTest, NamedColumnsComeFirst) {
 
 TEST(GraphSeriesTest, DivergenceWithItsCombinations) {
   EXPECT_EQ(Names(Chart(2, 6)),
-            (std::vector<std::string>{"Pi[1]", "Pi[2]", "Dxy", "Da", "Pi[1] && Pi[2]",
-                                      "Dxy && Da", "Pi[1] && Pi[2] && Dxy",
-                                      "Pi[1] && Pi[2] && Da"}));
+            (std::vector<std::string>{"Pi[1]", "Pi[2]", "Dxy", "Da", "Pi[1] & Pi[2]",
+                                      "Dxy & Da", "Pi[1] & Pi[2] & Dxy",
+                                      "Pi[1] & Pi[2] & Da"}));
   const std::vector<GraphSeries> s = SeriesOffered(Chart(2, 6));
   EXPECT_EQ(s[7].Columns, (std::vector<int32_t>{2, 3, 5}));
 }
@@ -69,7 +69,7 @@ TEST(GraphSeriesTest, LinkageNeutralityRatiosAndOthers) {
   EXPECT_EQ(Names(Chart(6, 5)), (std::vector<std::string>{"D*", "F*"}));
   EXPECT_EQ(Names(Chart(7, 5)), (std::vector<std::string>{"FL-D", "FL-F", "FW-H"}));
   EXPECT_EQ(Names(Chart(16, 4)),
-            (std::vector<std::string>{"K(a)/K(s)", "Pi(a)/Pi(s)", "Pi && K"}));
+            (std::vector<std::string>{"K(a)/K(s)", "Pi(a)/Pi(s)", "Pi & K"}));
   EXPECT_EQ(SeriesOffered(Chart(16, 4))[2].Columns, (std::vector<int32_t>{3, 2}));
   EXPECT_EQ(Names(Chart(9, 6)), (std::vector<std::string>{"Pi", "Theta", "S", "Psi"}));
 }

@@ -252,5 +252,19 @@ TEST(GraphRender, CodingRatiosDrawBothSeries) {
   EXPECT_GT(OfColour(image, GraphPalette{}.Series[1]), 100);
 }
 
+// A mark on the frame (the first window at the bottom of the scale) is drawn whole: its rim
+// reaches past the frame's corner.
+TEST(GraphRender, AMarkOnTheFrameIsNotCut) {
+  GraphPicture p;
+  p.HasChart = true;
+  p.Marks.push_back({{kFrameLeft, kFrameBottom}, {GraphRole::kSeries, 0}, MarkShape::kDot});
+  // A quarter of the page: the mark's radius of 32 units is 8 pixels, its rim a pixel more.
+  const QImage image = RenderGraphImage(p, QSize(kPageWidth / 4, kPageHeight / 4), GraphPalette{});
+  const int left = kFrameLeft / 4, bottom = kFrameBottom / 4;
+  EXPECT_NE(image.pixelColor(left - 9, bottom), GraphPalette{}.Background);
+  EXPECT_NE(image.pixelColor(left, bottom + 8), GraphPalette{}.Background);
+  EXPECT_EQ(image.pixelColor(left - 12, bottom), GraphPalette{}.Background);
+}
+
 }  // namespace
 }  // namespace ovelt

@@ -79,7 +79,7 @@ TEST(GraphWindowTest, GraphsEntryShowsTheRunsChartWithItsChooser) {
   EXPECT_EQ(entry->text(), "&Graphs...");
   GraphWindow* graph = d.Open();
   ASSERT_NE(graph, nullptr);
-  EXPECT_TRUE(graph->isVisible());
+  EXPECT_TRUE(d.window.Shows(graph));
   EXPECT_EQ(graph->windowTitle(), "GRAPH");
   ASSERT_EQ(graph->Chooser()->count(), 3);
   EXPECT_EQ(graph->Chooser()->itemText(0), "Pi");
@@ -171,15 +171,15 @@ TEST(GraphWindowTest, HiddenByANewRunAndByClosingTheFile) {
   ASSERT_TRUE(
       test::RunWith(CommandId::kDnaPolymorphism, d.window.Bench(), DnaPolOptions{}).Stands);
   d.window.Refresh();
-  EXPECT_FALSE(graph->isVisible());
+  EXPECT_FALSE(d.window.Shows(graph));
   EXPECT_FALSE(GraphHasFocus(d.window));
   EXPECT_EQ(d.window.ActionFor("salvar_Click")->text(), "&Save Current Output...");
   d.RunWindows();
   d.Open();
-  EXPECT_TRUE(graph->isVisible());
+  EXPECT_TRUE(d.window.Shows(graph));
   ASSERT_TRUE(d.window.Bench().CloseFile(false));
   d.window.Refresh();
-  EXPECT_FALSE(graph->isVisible());
+  EXPECT_FALSE(d.window.Shows(graph));
 }
 
 TEST(GraphWindowTest, ANewChartReplacesTheOneShown) {
@@ -191,7 +191,7 @@ TEST(GraphWindowTest, ANewChartReplacesTheOneShown) {
   options.SlidingOn = true;
   ASSERT_TRUE(test::RunWith(CommandId::kTajima, d.window.Bench(), options).Stands);
   d.window.Refresh();
-  EXPECT_TRUE(graph->isVisible());
+  EXPECT_TRUE(d.window.Shows(graph));
   EXPECT_EQ(graph->Graph().GraphKind, 5);
   ASSERT_EQ(graph->Chooser()->count(), 1);
   EXPECT_EQ(graph->Chooser()->itemText(0), "D");

@@ -14,6 +14,8 @@
 #include "shell/command_registry.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
+#include "shell/data_information.h"
+#include "ui/qt/data_info_window.h"
 #include "ui/qt/grid_window.h"
 #include "ui/qt/include_dialog.h"
 #include "ui/qt/main_window.h"
@@ -103,13 +105,13 @@ TEST_F(MainWindowTest, DataInformationGoesToTheTextWindow) {
   window.Bench().Output().Labels = FindEntry(CommandId::kFuLiOutgroup)->Facts.Labels;
   window.Trigger("DataInformacion_Click");
   EXPECT_FALSE(window.Text()->windowTitle().contains("Fu and Li"));
-  ASSERT_TRUE(window.Text()->isVisible());
+  ASSERT_TRUE(window.Shows(window.Text()));
   EXPECT_TRUE(window.Text()->Report().contains(" Total Number of Sequences     4"));
   // The second status panel names the results on show, and empties when they go.
   EXPECT_EQ(window.ResultsPanelText(), "Data Information");
   p.Answers.push_back(MsgAnswer::kYes);
   window.Trigger("del_Click");
-  EXPECT_FALSE(window.Text()->isVisible());
+  EXPECT_FALSE(window.Shows(window.Text()));
   EXPECT_EQ(window.ResultsPanelText(), "");
 }
 
@@ -124,12 +126,12 @@ TEST_F(MainWindowTest, SecondGridShowsWithItsCaptionAndGoesWithTheNextRun) {
   channel.Grid2.Rows.push_back({"TTT", "4"});
   channel.ShowResult(kResultSecondGrid);
   window.Refresh();
-  ASSERT_TRUE(window.SecondGrid()->isVisible());
+  ASSERT_TRUE(window.Shows(window.SecondGrid()));
   EXPECT_EQ(window.SecondGrid()->windowTitle(), "Codon Usage of:");
-  EXPECT_FALSE(window.Grid()->isVisible());
+  EXPECT_FALSE(window.Shows(window.Grid()));
   channel.ResetOutputs();
   window.Refresh();
-  EXPECT_FALSE(window.SecondGrid()->isVisible());
+  EXPECT_FALSE(window.Shows(window.SecondGrid()));
 }
 
 TEST_F(MainWindowTest, Form17WritesOnlyOnOk) {
@@ -174,6 +176,32 @@ TEST_F(MainWindowTest, IncludeDialogStaysOpenWhenNothingIsTicked) {
   EXPECT_EQ(p.Boxes.front().Text, "The active data file must contain at least one sequence.");
   EXPECT_EQ(window.Bench().Data().NumSeqs, 3);
   EXPECT_EQ(window.Bench().Data().SiteClass[3], kMonomorphic);
+}
+
+// The Data Information grid shows all its rows: nothing of it is scrolled out of sight.
+TEST(DataInfoWindowTest, TallAndWideEnoughForEveryRow) {
+  TempDir dir;
+  ScriptedPlatform p;
+  p.ProgramDir = dir.Path().string();
+  Workbench wb(p);
+  ASSERT_TRUE(wb.OpenPath(OVELT_EXAMPLES "/example.fas"));
+  const std::vector<InfoRow> rows = DataInformationRows(wb.Data());
+  DataInfoWindow window(rows, [] {});
+  window.show();
+  QApplication::processEvents();
+  QTableWidget* table = window.Table();
+  ASSERT_EQ(table->rowCount(), 15);
+  const QRect seen = table->viewport()->rect();
+  for (int r = 0; r < table->rowCount(); ++r)
+    for (int c = 0; c < 2; ++c)
+      EXPECT_TRUE(seen.contains(table->visualItemRect(table->item(r, c)))) << r << "," << c;
+}
+
+TEST(QtFilter, TheOpenDialogTakesTheCommonExtensionsOfEveryFormat) {
+  const QString filters = QtFilterFrom(kOpenDialogFilter);
+  EXPECT_TRUE(filters.startsWith("All Data Files (*.fas *.meg *.nbr *.nex *.phy *.pir *.fasta *.fa "
+                                 "*.fna *.nexus *.nxs *.phylip *.mega);;FASTA Files (*.fas);;"))
+      << filters.toStdString();
 }
 
 TEST(QtFilter, ClassicFilterBecomesQtFilters) {

@@ -1,11 +1,12 @@
-// Widgets need an application object; the tests run it without a screen.
+// Widgets need an application object; the tests run it without a screen unless a platform is
+// named (QT_QPA_PLATFORM=xcb under Xvfb, for the pictures of the session test).
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
   ::testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();

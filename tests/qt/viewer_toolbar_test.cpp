@@ -38,6 +38,29 @@ TEST(ViewerToolBar, TwelveButtonsInOrder) {
   for (int i = 0; i < 12; ++i) EXPECT_EQ(buttons[i]->text().toStdString(), labels[i]) << i;
 }
 
+// Each button's tip names it and the menu command it runs, as that command reads now.
+TEST(ViewerToolBar, TipsNameTheButtonAndItsMenuCommand) {
+  TempDir dir;
+  ScriptedPlatform p;
+  p.ProgramDir = dir.Path().string();
+  MainWindow window(p);
+  EXPECT_EQ(Button(window, "DataInformacion_Click")->toolTip(),
+            "Data Information (Display > Data Info)");
+  EXPECT_EQ(Button(window, "verf1_Click")->toolTip(), "Display Data (Display > View Data)");
+  EXPECT_EQ(Button(window, "leer_Click")->toolTip(), "Open Data File (File > Open Data File...)");
+  // The help button has no label: its command alone.
+  EXPECT_EQ(Button(window, "contenido_Click")->toolTip(), "Help > Contents");
+  for (const ToolButtonEntry& entry : kToolButtons) {
+    const QString tip = Button(window, entry.Handler)->toolTip();
+    EXPECT_FALSE(tip.isEmpty()) << entry.Handler;
+    EXPECT_EQ(Button(window, entry.Handler)->statusTip(), tip) << entry.Handler;
+  }
+  // A command whose words change takes its button's tip along.
+  window.Bench().Menus().SetText("salvar_Click", "Save Graph...");
+  window.Refresh();
+  EXPECT_EQ(Button(window, "salvar_Click")->toolTip(), "Save Current Output (File > Save Graph...)");
+}
+
 TEST(ViewerToolBar, VisibleWhenBuiltEnabledWithTheirMenuEntry) {
   TempDir dir;
   ScriptedPlatform p;

@@ -127,6 +127,24 @@ TEST(DataInformation, InterleavedTypeShowsTheBlock) {
   EXPECT_EQ(rows[4].second, "Interleaved (Block = 50)");
 }
 
+// Every kind of file shows the genetic code its codons are read with; a NEXUS file that names
+// none (no CODONS block) is read with the universal code.
+TEST(DataInformation, EveryFileKindShowsItsGeneticCode) {
+  const std::string corpus = std::string(OVELT_TEST_DATA) + "/corpus/";
+  for (const char* file : {"fasta/jmodeltest_aP6.fas", "nbrf/biopython_clustalw.pir",
+                           "mega/mega_D-loop_Vigilant.meg", "phylip/bioperl_noninterleaved.phy",
+                           "nexus/phangorn_woodmouse.nxs", "nexus/jmodeltest_Hex_EF1a.nex"}) {
+    TempDir dir;
+    ScriptedPlatform p;
+    p.ProgramDir = dir.Path().string();
+    Workbench wb(p);
+    ASSERT_TRUE(wb.OpenPath(corpus + file)) << file;
+    const auto rows = DataInformationRows(wb.Data());
+    ASSERT_EQ(rows[9].first, "Genetic Code");
+    EXPECT_EQ(rows[9].second, "Nuclear Universal") << file;
+  }
+}
+
 TEST(WorkbenchIndependence, TwoWorkbenchesDoNotShareState) {
   TempDir dir;
   ScriptedPlatform p1, p2;

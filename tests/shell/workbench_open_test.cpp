@@ -150,7 +150,8 @@ TEST_F(WorkbenchOpen, TheOpenDialogOffersTheDataFileFilter) {
   ASSERT_TRUE(wb.fbLeer1(0));
   ASSERT_EQ(p.OpenDialogs.size(), 1u);
   EXPECT_EQ(p.OpenDialogs[0],
-            "Open Data File|All Data Files|*.fas;*.meg;*.nbr;*.nex;*.phy;*.pir|FASTA Files "
+            "Open Data File|All Data Files|*.fas;*.meg;*.nbr;*.nex;*.phy;*.pir;*.fasta;*.fa;*.fna;"
+            "*.nexus;*.nxs;*.phylip;*.mega|FASTA Files "
             "(*.fas)|*.fas|MEGA Files (*.meg)|*.meg|NBRF/PIR files (*.nbr;*.pir)|*.nbr;*.pir|"
             "NEXUS files (*.nex)|*.nex|PHYLIP files (*.phy)|*.phy|All files (*.*)|*.*");
   EXPECT_TRUE(wb.FileOpen());
@@ -201,6 +202,34 @@ TEST_F(WorkbenchOpen, LineEndsOfAllKindsLeaveNoTemporaryFileBehind) {
   EXPECT_EQ(wb.Data().NumSites, 4);
   for (const auto& entry : std::filesystem::directory_iterator(dir.Path()))
     EXPECT_NE(entry.path().extension(), ".ric");
+}
+
+}  // namespace
+}  // namespace ovelt
+
+namespace ovelt {
+namespace {
+
+// A file named relative to the working directory (as on a command line) is listed whole, so
+// that the entry opens it again from anywhere.
+TEST(WorkbenchRecent, ARelativePathIsListedWhole) {
+  TempDir dir;
+  ScriptedPlatform p;
+  p.ProgramDir = dir.Path().string();
+  dir.Write("rel.fas", ">a\nACGT\n>b\nACGA\n");
+  std::filesystem::create_directory(dir.Path() / "sub");
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(dir.Path());
+  Workbench wb(p);
+  const bool opened = wb.OpenPath("./sub/../rel.fas");
+  std::filesystem::current_path(before);
+  ASSERT_TRUE(opened);
+  const std::string whole =
+      (std::filesystem::absolute(dir.Path()) / "rel.fas").lexically_normal().string();
+  EXPECT_EQ(wb.Recent().Entry(1), whole);
+  // The list on the disk holds the same line.
+  Workbench again(p);
+  EXPECT_EQ(again.Recent().Entry(1), whole);
 }
 
 }  // namespace

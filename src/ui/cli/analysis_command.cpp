@@ -30,6 +30,7 @@ int RunAndFinish(CommandState& state, const CommandEntry& entry, Workbench& wb,
   // The gate of the menus and the checks before the dialog concern the open file; a command
   // that needs none runs without them.
   const bool needs_data = entry.Binding->NeedsData();
+  for (const auto& set : state.pending.sets) platform.set_flags.push_back(set.key);
   if (needs_data && !wb.BeginCommand(entry.Facts.Number())) return kCliRefused;
   // What the dialog would say as the options were picked, said before the run.
   for (const std::string& notice : entry.Binding->ChoiceNotices(*state.options))

@@ -9,6 +9,8 @@
 #include <ostream>
 #include <system_error>
 
+#include "ui/cli/definition_flags.h"
+
 namespace ovelt {
 
 ConsolePlatform::ConsolePlatform(std::ostream& err) : err_(err) {}
@@ -49,6 +51,13 @@ MsgAnswer ConsolePlatform::AskBeforeChange(const std::string& text, MsgIcon, con
 void ConsolePlatform::ExplainRefusal(const std::string& reason) {
   if (reason.empty()) return;
   err_ << reason << "\n";
+  err_.flush();
+}
+
+void ConsolePlatform::DefinitionMissing(const std::string& form_name) {
+  const std::string line = DefinitionFlagsLine(form_name, set_flags);
+  if (line.empty()) return;
+  err_ << line << "\n";
   err_.flush();
 }
 

@@ -6,6 +6,7 @@
 #include <iosfwd>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/platform.h"
 
@@ -21,6 +22,8 @@ class ConsolePlatform : public Platform {
   MsgAnswer AskBeforeChange(const std::string& text, MsgIcon icon,
                             const std::string& title) override;
   void ExplainRefusal(const std::string& reason) override;
+  // The flags that give what the refused command lacked (DefinitionFlagsLine).
+  void DefinitionMissing(const std::string& form_name) override;
   std::optional<std::string> OpenFileName(const std::string& title,
                                           const std::string& filter) override;
   std::optional<std::string> SaveFileName(const std::string& title, const std::string& filter,
@@ -38,6 +41,10 @@ class ConsolePlatform : public Platform {
   MegaOptions mega;
   // The next save dialog returns this name (the --out/--session file); consumed once.
   std::optional<std::string> save_name;
+
+  // The sequence-set flags of the command being run ("set", "outgroup"), for
+  // DefinitionMissing.
+  std::vector<std::string> set_flags;
 
   // How many boxes were shown, and whether one of them was a warning or error.
   int boxes_shown = 0;

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <memory>
 #include <ostream>
 
 #include "shell/command_registry.h"
@@ -9,6 +10,7 @@
 #include "shell/workbench.h"
 #include "ui/cli/cli_registry.h"
 #include "ui/cli/console_platform.h"
+#include "ui/cli/definition_flags.h"
 #include "ui/cli/file_job.h"
 #include "ui/cli/site_view.h"
 
@@ -56,6 +58,9 @@ int RunCheck(const std::string& command, const FileJob& job, const CliStreams& s
           << (wb.FileOpen() ? "while a data file is open" : "without an open data file") << ".\n";
     return kCliRefused;
   }
+  if (found->Binding != nullptr)
+    if (const std::unique_ptr<CommandOptions> options = found->Binding->NewOptions())
+      platform.set_flags = SetFlagKeys(*options);
   if (!wb.BeginCommand(row->Number())) return kCliRefused;
   s.out << "Command " << row->Number() << " \"" << row->Title
         << "\": the checks before its dialog (" << row->ChecksText << ") pass; its dialog is "

@@ -5,6 +5,7 @@
 #include "ui/qt/data_viewer_options.h"
 #include "ui/qt/data_viewer_window.h"
 #include "ui/qt/main_window.h"
+#include "ui/qt/workspace.h"
 
 namespace ovelt {
 
@@ -22,11 +23,11 @@ void ShowViewer(MainWindow& window, const ViewerState& state) {
     viewer = new DataViewerWindow(window.Bench().Data(), state.Options, &window);
     viewer->setObjectName(kViewerObjectName);
     viewer->setAttribute(Qt::WA_DeleteOnClose);
+    window.Work().Place(WorkspaceSlot::kViewer, viewer);
   } else {
     viewer->Reload(window.Bench().Data());
   }
-  viewer->show();
-  viewer->raise();
+  window.Work().Present(viewer);
 }
 
 void EditOptions(MainWindow& window, ViewerState& state) {
@@ -40,6 +41,7 @@ void FollowTheFile(MainWindow& window) {
   DataViewerWindow* viewer = OpenDataViewer(window);
   if (viewer == nullptr) return;
   if (!window.Bench().FileOpen()) {
+    window.Work().Hide(viewer);
     viewer->close();
     return;
   }
@@ -49,7 +51,8 @@ void FollowTheFile(MainWindow& window) {
 }  // namespace
 
 DataViewerWindow* OpenDataViewer(MainWindow& window) {
-  return window.findChild<DataViewerWindow*>(kViewerObjectName, Qt::FindDirectChildrenOnly);
+  // In its dock of the workspace.
+  return window.findChild<DataViewerWindow*>(kViewerObjectName);
 }
 
 void AddDataViewerHandlers(MainWindow& window) {

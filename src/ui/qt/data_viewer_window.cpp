@@ -31,7 +31,7 @@ QString LegendText() {
 
 DataViewerWindow::DataViewerWindow(const ActiveData& ad, const ViewerDisplayOptions& options,
                                    QWidget* parent)
-    : QWidget(parent, Qt::Window) {
+    : QWidget(parent) {
   setWindowTitle(QString::fromStdString(kViewerTitlePrefix + ad.FileName));
   combo_ = new QComboBox;
   for (int i = 0; i < kViewerHighlightCount; ++i)
@@ -75,7 +75,7 @@ DataViewerWindow::DataViewerWindow(const ActiveData& ad, const ViewerDisplayOpti
   connect(combo_, &QComboBox::currentIndexChanged, this, [this](int i) {
     if (i >= 0) model_->SetHighlight(static_cast<ViewerHighlight>(i));
   });
-  resize(820, 460);
+  setFocusProxy(view_);
 }
 
 void DataViewerWindow::Install(std::unique_ptr<DataViewerModel> model) {

@@ -1,11 +1,9 @@
 #include "ui/qt/graph_handlers.h"
 
-#include <QGuiApplication>
-#include <QWindow>
-
 #include "ui/qt/graph_window.h"
 #include "ui/qt/main_window.h"
 #include "ui/qt/print_output.h"
+#include "ui/qt/workspace.h"
 
 namespace ovelt {
 
@@ -19,9 +17,9 @@ class GraphController : public QObject {
   explicit GraphController(MainWindow& window) : QObject(&window), window_(window) {
     setObjectName(kControllerName);
     connect(&window, &MainWindow::Refreshed, this, [this] { Follow(); });
-    if (auto* app = qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
-      connect(app, &QGuiApplication::focusWindowChanged, this,
-              [this](QWindow* focus) { FocusMoved(focus); });
+    // The graph has the focus while it is the window of the workspace the user works in.
+    connect(&window.Work(), &Workspace::Activated, this,
+            [this](QWidget* content) { SetFocus(graph_ != nullptr && content == graph_); });
   }
 
   GraphWindow* Window() const { return graph_; }
@@ -31,18 +29,18 @@ class GraphController : public QObject {
     Workbench& wb = window_.Bench();
     if (graph_ == nullptr) {
       graph_ = new GraphWindow(wb, &window_);
-      connect(graph_, &GraphWindow::FocusChanged, this, [this](bool on) { SetFocus(on); });
+      window_.Work().Place(WorkspaceSlot::kGraph, graph_);
     }
     const OutputChannel& channel = wb.Output();
     graph_->ShowGraph(channel.GraphOn != 0 ? channel.Graph() : GraphData{});
     shown_serial_ = channel.GraphSerial();
-    graph_->show();
-    graph_->raise();
-    graph_->activateWindow();
+    window_.Work().Present(graph_);
   }
 
+  bool Shown() const { return graph_ != nullptr && window_.Work().Shows(graph_); }
+
   void Save() {
-    if (focus_ && graph_ != nullptr && graph_->isVisible()) {
+    if (focus_ && Shown()) {
       graph_->SaveGraph();
       return;
     }
@@ -54,7 +52,7 @@ class GraphController : public QObject {
   }
 
   void Print() {
-    if (focus_ && graph_ != nullptr && graph_->isVisible()) {
+    if (focus_ && Shown()) {
       graph_->PrintGraph(ProgramPrinter(window_));
       return;
     }
@@ -78,24 +76,14 @@ class GraphController : public QObject {
     Workbench& wb = window_.Bench();
     const OutputChannel& channel = wb.Output();
     if (!wb.FileOpen() || channel.GraphOn == 0) {
-      graph_->hide();
+      window_.Work().Hide(graph_);
       graph_->Clear();
       SetFocus(false);
       return;
     }
-    if (graph_->isVisible() && channel.GraphSerial() != shown_serial_) {
+    if (Shown() && channel.GraphSerial() != shown_serial_) {
       shown_serial_ = channel.GraphSerial();
       graph_->ShowGraph(channel.Graph());
-    }
-  }
-
-  void FocusMoved(QWindow* focus) {
-    if (focus == nullptr || graph_ == nullptr) return;
-    if (focus == graph_->windowHandle()) {
-      SetFocus(true);
-    } else if (focus != window_.windowHandle()) {
-      // The main window's own menu bar keeps the graph's captions; any other window ends them.
-      SetFocus(false);
     }
   }
 

@@ -123,8 +123,10 @@ void PaintGraph(QPainter& painter, const QRect& target, const GraphPicture& pict
     painter.setPen(PenOf(line.Pen, palette));
     painter.drawPolyline(polygon);
   }
-  for (const GraphMark& mark : picture.Marks) PaintMark(painter, mark, palette);
+  // A mark stands on a value inside the axes' range, so it is drawn whole even where it sits on
+  // the frame.
   painter.setClipping(false);
+  for (const GraphMark& mark : picture.Marks) PaintMark(painter, mark, palette);
   for (const GraphText& text : picture.Texts) PaintText(painter, text, palette);
   painter.restore();
 }

@@ -2,7 +2,6 @@
 
 #include <QClipboard>
 #include <QComboBox>
-#include <QEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPainter>
@@ -30,7 +29,16 @@ class GraphCanvas : public QWidget {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    PaintGraph(painter, rect(), picture_, palette_);
+    // The page keeps its proportions in a tab of any shape: texts and marks are not stretched.
+    painter.fillRect(rect(), palette_.Background);
+    int width = rect().width();
+    int height = width * kPageHeight / kPageWidth;
+    if (height > rect().height()) {
+      height = rect().height();
+      width = height * kPageWidth / kPageHeight;
+    }
+    const QRect page((rect().width() - width) / 2, (rect().height() - height) / 2, width, height);
+    PaintGraph(painter, page, picture_, palette_);
   }
 
  private:
@@ -62,7 +70,7 @@ GraphPrintFacts PrintFacts(Workbench& wb, int16_t kind) {
 }  // namespace
 
 GraphWindow::GraphWindow(Workbench& workbench, QWidget* parent)
-    : QWidget(parent, Qt::Window), workbench_(workbench) {
+    : QWidget(parent), workbench_(workbench) {
   setWindowTitle(kGraphCaption);
   chooser_ = new QComboBox;
   chooser_->setMinimumContentsLength(22);
@@ -85,7 +93,9 @@ GraphWindow::GraphWindow(Workbench& workbench, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(buttons);
   layout->addWidget(canvas_, 1);
-  resize(kGraphImageWidth + 24, kGraphImageHeight + 60);
+  // A click on the chart gives the window the focus, and with it the File menu's graph entries.
+  canvas_->setFocusPolicy(Qt::StrongFocus);
+  setFocusProxy(canvas_);
 
   connect(chooser_, &QComboBox::currentIndexChanged, this, [this] {
     if (!filling_) Draw();
@@ -209,11 +219,6 @@ void GraphWindow::PaintPage(QPainter& painter, const QRect& page) {
   const int width = page.width();
   const int height = width * kPageHeight / kPageWidth;
   PaintGraph(painter, QRect(page.left(), y, width, height), picture_, palette_);
-}
-
-void GraphWindow::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) emit FocusChanged(true);
-  QWidget::changeEvent(event);
 }
 
 }  // namespace ovelt

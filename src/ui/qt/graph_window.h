@@ -65,13 +65,6 @@ class GraphWindow : public QWidget {
   // Empties the chart (the window is about to hide: closed file or a new run).
   void Clear();
 
- signals:
-  // The window took the focus (true) or lost it to another window of the program (false).
-  void FocusChanged(bool has_focus);
-
- protected:
-  void changeEvent(QEvent* event) override;
-
  private:
   void Fail();
 

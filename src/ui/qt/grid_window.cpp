@@ -8,12 +8,13 @@
 
 namespace ovelt {
 
-GridWindow::GridWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
+GridWindow::GridWindow(QWidget* parent) : QWidget(parent) {
   auto* layout = new QVBoxLayout(this);
   table_ = new QTableWidget;
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(table_);
-  resize(640, 480);
+  setFocusProxy(table_);
 }
 
 void GridWindow::SetGrid(const QString& caption, const OutputGrid& grid, int minimum_rows) {

@@ -1,5 +1,6 @@
 #pragma once
-// A grid window of a result: the analysis's rows under its column titles.
+// A grid window of a result: the analysis's rows under its column titles, in a tab of the
+// workspace.
 
 #include <QWidget>
 

@@ -4,9 +4,11 @@
 #include <QCloseEvent>
 #include <QDateTime>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QProgressBar>
+#include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
@@ -27,6 +29,7 @@
 #include "ui/qt/text_window.h"
 #include "ui/qt/tool_bar.h"
 #include "ui/qt/tool_windows.h"
+#include "ui/qt/workspace.h"
 
 namespace ovelt {
 
@@ -57,7 +60,10 @@ MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* par
   // The title of the results on show, next to the clock.
   statusBar()->addPermanentWidget(results_);
   statusBar()->addPermanentWidget(clock_);
-  if (qt_platform_ != nullptr) qt_platform_->Attach(this, status_, gauge_);
+  if (qt_platform_ != nullptr) {
+    qt_platform_->Attach(this, status_, gauge_);
+    qt_platform_->SetDialogs([this](const std::string& form) { return OpenNamedDialog(form); });
+  }
   status_->setText(kIdleStatus);
 
   // The date and time in the status bar, refreshed by a timer: "dd/mm/yy hh:mm".
@@ -67,6 +73,8 @@ MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* par
   timer_->start(30000);
   tick();
 
+  // Before the handlers: the graph and the data viewer open in it.
+  workspace_ = new Workspace(*this);
   RegisterHandlers();
   AddAnalysisHandlers(*this);
   AddDataViewerHandlers(*this);
@@ -78,7 +86,8 @@ MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* par
   AddGraphHandlers(*this);  // after the print handlers: it wraps printout_Click
   BuildMenus();
   BuildToolBar();
-  // The frame in the middle of the window shows the program and its version.
+  // The frame in the middle of the window shows the program and its version while no window
+  // of the workspace is docked there.
   auto* version =
       new QLabel(QString("Ovelt Workbench\n") + kVersionText + "  (" + kVersionDate + ")");
   version->setObjectName("versionFrame");
@@ -88,12 +97,17 @@ MainWindow::MainWindow(Platform& platform, QtPlatform* qt_platform, QWidget* par
   text_ = new TextWindow(this);
   grid_ = new GridWindow(this);
   grid2_ = new GridWindow(this);
+  workspace_->Place(WorkspaceSlot::kText, text_);
+  workspace_->Place(WorkspaceSlot::kGrid, grid_);
+  workspace_->Place(WorkspaceSlot::kSecondGrid, grid2_);
   setWindowTitle(Q(workbench_.WindowTitle()));
-  resize(900, 600);
+  resize(900, 600);  // RememberLayout sizes it to the screen
   Refresh();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+  if (qt_platform_ != nullptr) qt_platform_->SetDialogs(nullptr);
+}
 
 void MainWindow::RegisterHandlers() {
   Workbench& wb = workbench_;
@@ -155,12 +169,33 @@ GridWindow* MainWindow::Grid() const {
   return grid_;
 }
 
+bool MainWindow::Shows(const QWidget* content) const {
+  return workspace_->Shows(content);
+}
+
+void MainWindow::RememberLayout(QSettings& settings) {
+  layout_settings_ = &settings;
+  workspace_->Restore(settings);
+}
+
 QString MainWindow::StatusText() const {
   return status_->text();
 }
 
 QString MainWindow::ResultsPanelText() const {
   return results_->text();
+}
+
+bool MainWindow::OpenNamedDialog(const std::string& form_name) {
+  // The table of preferred codons has its editor; the Data menu's dialogs are told by name.
+  if (form_name == "PrefUnprefTable") {
+    auto editor = handlers_.find("MenuGCPreferentTable_Click");
+    if (editor == handlers_.end()) return false;
+    editor->second();
+    Refresh();
+    return true;
+  }
+  return ShowDataDialog(*this, form_name);
 }
 
 void MainWindow::Trigger(const std::string& handler) {
@@ -205,24 +240,32 @@ void MainWindow::ShowResults() {
   if (windows.Text) {
     text_->SetReport(Q(labels.TextCaption + " - " + workbench_.Data().FileName),
                      channel.TextBuffer);
-    text_->show();
+    workspace_->Show(text_);
   } else {
-    text_->hide();
+    workspace_->Hide(text_);
   }
   if (windows.Grid) {
     const std::string caption = !labels.GridCaption.empty() ? labels.GridCaption
                                 : channel.ResultCode != 0   ? std::string("Output. Grid")
                                                             : "Output. Table of: " + title;
     grid_->SetGrid(Q(caption), channel.Grid1, channel.GridRows);
-    grid_->show();
+    workspace_->Show(grid_);
   } else {
-    grid_->hide();
+    workspace_->Hide(grid_);
   }
   if (windows.Grid2) {
     grid2_->SetGrid(Q(labels.SecondGridCaption), channel.Grid2, channel.GridRows);
-    grid2_->show();
+    workspace_->Show(grid2_);
   } else {
-    grid2_->hide();
+    workspace_->Hide(grid2_);
+  }
+  // A new result comes to the front: its report, or its first table when it has no report.
+  const bool shown = windows.Text || windows.Grid || windows.Grid2;
+  if (shown && channel.ResultSerial() != presented_serial_) {
+    presented_serial_ = channel.ResultSerial();
+    workspace_->Present(windows.Text ? static_cast<QWidget*>(text_)
+                        : windows.Grid ? grid_
+                                       : grid2_);
   }
 }
 
@@ -273,8 +316,15 @@ void MainWindow::RunIncludeSequences() {
   dialog.exec();
 }
 
+QMenu* MainWindow::createPopupMenu() {
+  auto* menu = new QMenu(this);
+  for (QToolBar* bar : findChildren<QToolBar*>()) menu->addAction(bar->toggleViewAction());
+  return menu;
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (workbench_.salida_programa()) {
+    if (layout_settings_ != nullptr) workspace_->Save(*layout_settings_);
     event->accept();
   } else {
     event->ignore();

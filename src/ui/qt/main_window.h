@@ -1,7 +1,8 @@
 #pragma once
 // The main window: menus built from the menu model, tool buttons, the status line with its
-// progress bar and clock, and the result windows. Every menu entry runs the handler of the
-// same name on the Workbench; after each one the menus are brought in line with the model.
+// progress bar and clock, and the workspace that holds the data viewer and the result windows.
+// Every menu entry runs the handler of the same name on the Workbench; after each one the menus
+// are brought in line with the model.
 
 #include <QMainWindow>
 
@@ -16,6 +17,7 @@ class QAction;
 class QLabel;
 class QMenu;
 class QProgressBar;
+class QSettings;
 class QTimer;
 
 namespace ovelt {
@@ -23,6 +25,7 @@ namespace ovelt {
 class QtPlatform;
 class TextWindow;
 class GridWindow;
+class Workspace;
 
 class MainWindow : public QMainWindow {
   Q_OBJECT
@@ -41,6 +44,10 @@ class MainWindow : public QMainWindow {
   [[nodiscard]] GridWindow* Grid() const;
   // The second grid window, for the tables of the polymorphism and divergence group.
   [[nodiscard]] GridWindow* SecondGrid() const { return grid2_; }
+  // The tabs and floating windows of the data viewer and of the results.
+  [[nodiscard]] Workspace& Work() const { return *workspace_; }
+  // Whether the window of `content` is open in the workspace (in front or behind a tab).
+  [[nodiscard]] bool Shows(const QWidget* content) const;
   [[nodiscard]] QString StatusText() const;
   // The status panel with the title of the current results (empty when none are shown).
   [[nodiscard]] QString ResultsPanelText() const;
@@ -55,8 +62,18 @@ class MainWindow : public QMainWindow {
     return handlers_.count(handler) > 0;
   }
 
+  // Opens one of the program's dialogs by its form name ("dlgDefPop", "Form14",
+  // "PrefUnprefTable", ...), as the Yes of a refusal that offers to define what is missing
+  // does. True when the user confirmed it; false for a name without a dialog here.
+  bool OpenNamedDialog(const std::string& form_name);
+
   // Brings menus, captions, title and result windows in line with the model.
   void Refresh();
+
+  // Restores the window's geometry and the workspace's layout from `settings` (or sizes the
+  // window to its screen), and saves both there when the window closes. `settings` must
+  // outlive the window.
+  void RememberLayout(QSettings& settings);
 
  signals:
   // After each Refresh: windows that follow the data (tool bar, data viewer) update themselves.
@@ -64,6 +81,9 @@ class MainWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  // The context menu of the bars: the tool bar alone. A window of the workspace opens with its
+  // data or result, never empty from a menu.
+  QMenu* createPopupMenu() override;
 
  private:
   void BuildMenus();
@@ -88,6 +108,10 @@ class MainWindow : public QMainWindow {
   TextWindow* text_ = nullptr;  // children of this window
   GridWindow* grid_ = nullptr;
   GridWindow* grid2_ = nullptr;
+  Workspace* workspace_ = nullptr;
+  QSettings* layout_settings_ = nullptr;
+  // The result last brought to the front (OutputChannel::ResultSerial).
+  int32_t presented_serial_ = -1;
 };
 
 }  // namespace ovelt

@@ -86,6 +86,10 @@ std::optional<std::string> QtPlatform::SaveFileName(const std::string& title,
   return name.toStdString();
 }
 
+bool QtPlatform::ShowDialog(const std::string& form_name) {
+  return dialogs_ ? dialogs_(form_name) : false;
+}
+
 std::optional<MegaOptions> QtPlatform::AskMegaOptions(const std::string& file_name) {
   MegaDialog dialog(Q(file_name), parent_);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;

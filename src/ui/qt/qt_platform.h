@@ -4,6 +4,9 @@
 
 #include <QPointer>
 
+#include <functional>
+#include <string>
+
 #include "platform/platform.h"
 
 class QLabel;
@@ -18,6 +21,8 @@ class QtPlatform : public Platform {
 
   // The main window's widgets, once it exists.
   void Attach(QWidget* parent, QLabel* status, QProgressBar* gauge);
+  // Who opens the program's dialogs by their form names (the main window).
+  void SetDialogs(std::function<bool(const std::string&)> open) { dialogs_ = std::move(open); }
 
   MsgAnswer MessageBox(const std::string& text, MsgIcon icon, MsgButtons buttons,
                        const std::string& title, bool default_second) override;
@@ -25,6 +30,8 @@ class QtPlatform : public Platform {
                                           const std::string& filter) override;
   std::optional<std::string> SaveFileName(const std::string& title, const std::string& filter,
                                           const std::string& default_name) override;
+  // A refusal's Yes ("Do you want to define them?"): the dialog that defines what is missing.
+  bool ShowDialog(const std::string& form_name) override;
   std::optional<MegaOptions> AskMegaOptions(const std::string& file_name) override;
   void SetStatusText(const std::string& text) override;
   void SetProgress(int percent) override;
@@ -37,6 +44,7 @@ class QtPlatform : public Platform {
   QPointer<QWidget> parent_;
   QPointer<QLabel> status_;
   QPointer<QProgressBar> gauge_;
+  std::function<bool(const std::string&)> dialogs_;
 };
 
 // "All Data Files|*.fas;*.meg|FASTA Files (*.fas)|*.fas" -> the filter list of a Qt dialog.

@@ -6,14 +6,15 @@
 
 namespace ovelt {
 
-TextWindow::TextWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
+TextWindow::TextWindow(QWidget* parent) : QWidget(parent) {
   auto* layout = new QVBoxLayout(this);
   text_ = new QPlainTextEdit;
   text_->setReadOnly(true);
   text_->setLineWrapMode(QPlainTextEdit::NoWrap);
   text_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(text_);
-  resize(760, 520);
+  setFocusProxy(text_);
 }
 
 void TextWindow::SetReport(const QString& caption, const std::string& crlf_text) {

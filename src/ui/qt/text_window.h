@@ -1,5 +1,5 @@
 #pragma once
-// The text window of a result: the report in a fixed-pitch font.
+// The text window of a result: the report in a fixed-pitch font, in a tab of the workspace.
 
 #include <QWidget>
 

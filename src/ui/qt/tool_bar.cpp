@@ -25,6 +25,16 @@ QStyle::StandardPixmap IconOf(size_t button) {
 
 }  // namespace
 
+QString ToolButtonTip(const ToolButtonEntry& button, const MenuModel& menus) {
+  const MenuEntry* entry = menus.Find(button.Handler);
+  QString command = entry != nullptr ? QString::fromStdString(entry->text) : QString();
+  command = command.remove('&').trimmed();
+  const QString label = QString::fromLatin1(button.Label);
+  if (entry == nullptr) return label;
+  const QString path = QString::fromStdString(entry->menu) + " > " + command;
+  return label.isEmpty() ? path : label + " (" + path + ")";
+}
+
 void BuildMainToolBar(MainWindow& window) {
   QToolBar* bar = window.addToolBar("Tools");
   bar->setObjectName("SSCommand1");
@@ -34,16 +44,22 @@ void BuildMainToolBar(MainWindow& window) {
     QAction* button = bar->addAction(window.style()->standardIcon(IconOf(i)),
                                      kToolButtons[i].Label);
     button->setObjectName(QString::fromStdString(handler));
-    if (button->text().isEmpty()) button->setToolTip(QString());
     QObject::connect(button, &QAction::triggered, &window, [&window, handler] {
       if (window.Bench().Menus().Enabled(handler)) window.Trigger(handler);
     });
   }
   auto follow = [&window, bar] {
-    for (QAction* button : bar->actions()) {
-      const std::string handler = button->objectName().toStdString();
+    const MenuModel& menus = window.Bench().Menus();
+    for (size_t i = 0; i < kToolButtons.size(); ++i) {
+      QAction* button = bar->actions()[static_cast<qsizetype>(i)];
+      const std::string handler = kToolButtons[i].Handler;
       button->setVisible(window.HasHandler(handler));
-      button->setEnabled(window.Bench().Menus().Enabled(handler));
+      button->setEnabled(menus.Enabled(handler));
+      // The tip names the button and the menu command it runs, as the command reads now
+      // ("Save Graph..." while the graph has the focus).
+      const QString tip = ToolButtonTip(kToolButtons[i], menus);
+      button->setToolTip(tip);
+      button->setStatusTip(tip);
     }
   };
   QObject::connect(&window, &MainWindow::Refreshed, bar, follow);

@@ -3,11 +3,14 @@
 // while that entry is enabled; a button whose command is not built (no handler registered) is
 // not shown.
 
+#include <QString>
+
 #include <array>
 
 namespace ovelt {
 
 class MainWindow;
+class MenuModel;
 
 struct ToolButtonEntry {
   const char* Label;
@@ -28,6 +31,10 @@ inline constexpr std::array<ToolButtonEntry, 12> kToolButtons = {{
     {"Define Sequence Sets", "MenuDefinePopulations_Click"},
     {"", "contenido_Click"},  // the help button carries no label
 }};
+
+// The tip of a button: its label and the menu command it runs, "Display Data (Display > View
+// Data)"; the help button, which has no label, shows the command alone.
+[[nodiscard]] QString ToolButtonTip(const ToolButtonEntry& button, const MenuModel& menus);
 
 // Adds the tool bar to `window`; its buttons follow each Refresh of the window.
 void BuildMainToolBar(MainWindow& window);
