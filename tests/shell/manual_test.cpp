@@ -195,8 +195,11 @@ TEST(ShippedManual, EveryLinkLeadsToAPageAndTheIndexLinksEveryPage) {
       if (page.Name == "index") from_index.insert(name);
     }
   }
-  for (const std::string& name : names)
-    if (name != "index") EXPECT_TRUE(from_index.count(name)) << "the index does not link " << name;
+  for (const std::string& name : names) {
+    if (name != "index") {
+      EXPECT_TRUE(from_index.count(name)) << "the index does not link " << name;
+    }
+  }
 }
 
 }  // namespace

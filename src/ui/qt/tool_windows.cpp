@@ -1,9 +1,12 @@
 #include "ui/qt/tool_windows.h"
 
+#include <string>
+
 #include "tools/distribution_options.h"
 #include "tools/independence_options.h"
 #include "ui/qt/calculator_window.h"
 #include "ui/qt/distributions_window.h"
+#include "ui/qt/help_window.h"
 #include "ui/qt/independence_window.h"
 #include "ui/qt/main_window.h"
 #include "ui/qt/tool_windows_coalescent.h"
@@ -17,6 +20,7 @@ void RunToolCommand(MainWindow& window, int16_t number, Extra... extra) {
   Workbench& wb = window.Bench();
   if (!wb.BeginCommand(number)) return;
   Window tool(wb, extra..., &window);
+  AttachHelpKey(&tool, wb.Ui(), std::to_string(number));
   tool.exec();
   wb.EndCommand();
 }
@@ -37,6 +41,7 @@ void AddToolHandlers(MainWindow& window) {
   });
   window.AddHandler("MenuCalculator_Click", [main] {
     CalculatorWindow calculator(main->Bench().Ui(), LocaleDecimalSeparator(), main);
+    AttachHelpKey(&calculator, main->Bench().Ui(), "calc");
     calculator.exec();
   });
 }
