@@ -27,6 +27,18 @@ constexpr int kPageRole = Qt::UserRole;
 
 QString Words(const std::string& text) { return QString::fromStdString(text); }
 
+// Every page is Markdown, also the ones that a link or Back leads to; a link is taken from the
+// page it stands on, so that the source is always the page's own file.
+class ManualBrowser : public QTextBrowser {
+ protected:
+  void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override {
+    const QUrl target = url.isRelative() && source().isValid() ? source().resolved(url) : url;
+    if (type == QTextDocument::UnknownResource && target.path().endsWith(QStringLiteral(".md")))
+      type = QTextDocument::MarkdownResource;
+    QTextBrowser::doSetSource(target, type);
+  }
+};
+
 // Opens the page of one command on F1, in a help window that belongs to the dialog.
 class HelpKeyFilter : public QObject {
  public:
@@ -70,7 +82,7 @@ HelpWindow::HelpWindow(std::filesystem::path manual_root, QWidget* parent)
     : QWidget(parent, Qt::Window),
       root_(std::filesystem::absolute(manual_root).lexically_normal()) {
   setWindowTitle(QStringLiteral("Ovelt Workbench Help"));
-  browser_ = new QTextBrowser;
+  browser_ = new ManualBrowser;
   browser_->setOpenExternalLinks(true);
   browser_->setSearchPaths({QString::fromStdString(root_.string())});
   contents_ = new QListWidget;
