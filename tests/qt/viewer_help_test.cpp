@@ -34,6 +34,7 @@ class ViewerHelp : public ::testing::Test {
   bool opens = true;
 };
 
+// No manual in the program directory (and none beside the test program): the help is missing.
 TEST_F(ViewerHelp, ContentsAndSearchSayTheHelpFileIsMissing) {
   MainWindow window(p);
   AddHelpHandlers(window, Recorder());
@@ -48,17 +49,6 @@ TEST_F(ViewerHelp, ContentsAndSearchSayTheHelpFileIsMissing) {
     EXPECT_EQ(p.Boxes[0].Title, "Ovelt");
   }
   EXPECT_TRUE(opened.empty());
-}
-
-TEST_F(ViewerHelp, AHelpFileInTheProgramDirectoryIsOpened) {
-  const std::string file = dir.Write("ovelt#4.hlp", "help");
-  MainWindow window(p);
-  AddHelpHandlers(window, Recorder());
-  window.Trigger("contenido_Click");
-  EXPECT_TRUE(p.Boxes.empty());
-  ASSERT_EQ(opened.size(), 1U);
-  EXPECT_EQ(opened[0].rfind("file://", 0), 0U);
-  EXPECT_NE(opened[0].find("hlp"), std::string::npos);
 }
 
 TEST_F(ViewerHelp, WebCommandsOpenTheBrowserOrSayBrowserError) {

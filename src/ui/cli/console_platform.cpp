@@ -88,11 +88,15 @@ Platform::DateTime ConsolePlatform::Now() {
           local.tm_hour,        local.tm_min,     local.tm_sec};
 }
 
-std::string ConsolePlatform::ProgramDirectory() {
-  if (const char* home = std::getenv("OVELT_HOME")) return home;
+std::string ExecutableDirectory() {
   std::error_code ec;
   const auto exe = std::filesystem::read_symlink("/proc/self/exe", ec);
   return ec ? std::string() : exe.parent_path().string();
+}
+
+std::string ConsolePlatform::ProgramDirectory() {
+  if (const char* home = std::getenv("OVELT_HOME")) return home;
+  return ExecutableDirectory();
 }
 
 std::string ConsolePlatform::ConfigDirectory() {

@@ -12,6 +12,9 @@
 
 namespace ovelt {
 
+// The folder of the running executable (not overridden by OVELT_HOME); "" if unknown.
+[[nodiscard]] std::string ExecutableDirectory();
+
 class ConsolePlatform : public Platform {
  public:
   explicit ConsolePlatform(std::ostream& err);

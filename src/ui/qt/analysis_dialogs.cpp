@@ -2,6 +2,7 @@
 
 #include "shell/command_registry.h"
 #include "shell/command_runner.h"
+#include "ui/qt/help_window.h"
 #include "ui/qt/main_window.h"
 #include "ui/qt/option_dialog.h"
 
@@ -26,6 +27,7 @@ void RunAnalysisWithDialog(QWidget* parent, Workbench& wb, const CommandEntry& e
   for (;;) {
     OptionDialog dialog(QString::fromStdString(entry.Facts.Title), parent);
     BuildOptionDialog(dialog, *options, wb.Data());
+    AttachHelpKey(&dialog, wb.Ui(), entry.Facts.CliName);
     if (dialog.exec() != QDialog::Accepted) break;
     if (RunCommand(wb, entry, *options).Stands || wb.Output().ReopenDialog == 0) break;
   }

@@ -4,28 +4,37 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QPointer>
 #include <QUrl>
 #include <QVBoxLayout>
 
-#include <filesystem>
+#include <memory>
 
+#include "shell/manual.h"
 #include "ui/qt/help_text.h"
+#include "ui/qt/help_window.h"
 #include "ui/qt/main_window.h"
 
 namespace ovelt {
 
 namespace {
 
-void OpenHelpFile(MainWindow& window, const UrlOpener& opener) {
+// Contents and Search open the one help window of the main window; without a manual they say
+// that the help is missing.
+void OpenManual(MainWindow& window, QPointer<HelpWindow>& help, bool search) {
   Platform& ui = window.Bench().Ui();
-  const std::filesystem::path file =
-      std::filesystem::path(ui.ProgramDirectory()) / kHelpFileName;
-  std::error_code error;
-  if (!ui.ProgramDirectory().empty() && std::filesystem::is_regular_file(file, error)) {
-    if (opener(QUrl::fromLocalFile(QString::fromStdString(file.string())).toString().toStdString()))
-      return;
+  const auto root = FindManual(DesktopProgramDirectories(ui.ProgramDirectory()));
+  if (!root) {
+    ui.MessageBox(kHelpFileMissing, MsgIcon::kCritical);
+    return;
   }
-  ui.MessageBox(kHelpFileMissing, MsgIcon::kCritical);
+  if (help.isNull()) help = new HelpWindow(*root, &window);
+  if (!search) help->ShowPage("index");
+  if (help->CurrentPage().empty()) help->ShowPage("index");
+  help->show();
+  help->raise();
+  help->activateWindow();
+  if (search) help->FocusSearch();
 }
 
 void OpenPage(MainWindow& window, const UrlOpener& opener, const std::string& address) {
@@ -54,8 +63,9 @@ bool OpenWithSystem(const std::string& address) {
 }
 
 void AddHelpHandlers(MainWindow& window, UrlOpener opener) {
-  window.AddHandler("contenido_Click", [&window, opener] { OpenHelpFile(window, opener); });
-  window.AddHandler("AyudaBuscar_Click", [&window, opener] { OpenHelpFile(window, opener); });
+  auto help = std::make_shared<QPointer<HelpWindow>>();
+  window.AddHandler("contenido_Click", [&window, help] { OpenManual(window, *help, false); });
+  window.AddHandler("AyudaBuscar_Click", [&window, help] { OpenManual(window, *help, true); });
   window.AddHandler("BugReports_Click",
                     [&window, opener] { OpenPage(window, opener, kBugReportAddress); });
   window.AddHandler("WebPage_Click",

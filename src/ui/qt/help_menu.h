@@ -1,7 +1,8 @@
 #pragma once
-// The Help menu: Contents and Search open the help file when it lies in the program's
-// directory, and otherwise say that it is missing; Bug Reports and the Web Page open the
-// browser ("Browser Error" when it cannot be started); Citation shows a plain window.
+// The Help menu: Contents opens the manual at its index in the help window, Search for Help
+// opens it with the search field ready, and without a manual both say that the help is
+// missing; Bug Reports and the Web Page open the browser ("Browser Error" when it cannot be
+// started); Citation shows a plain window.
 
 #include <functional>
 #include <string>

@@ -1,8 +1,11 @@
 #include "ui/qt/tool_windows.h"
 
+#include <string>
+
 #include "core/command_id.h"
 #include "ui/qt/calculator_window.h"
 #include "ui/qt/distributions_window.h"
+#include "ui/qt/help_window.h"
 #include "ui/qt/independence_window.h"
 #include "ui/qt/main_window.h"
 #include "ui/qt/tool_windows_coalescent.h"
@@ -16,6 +19,7 @@ void RunToolCommand(MainWindow& window, CommandId id, Extra... extra) {
   Workbench& wb = window.Bench();
   if (!wb.BeginCommand(Number(id))) return;
   Window tool(wb, extra..., &window);
+  AttachHelpKey(&tool, wb.Ui(), std::to_string(Number(id)));
   tool.exec();
   wb.EndCommand();
 }
@@ -36,6 +40,7 @@ void AddToolHandlers(MainWindow& window) {
   });
   window.AddHandler("MenuCalculator_Click", [main] {
     CalculatorWindow calculator(main->Bench().Ui(), LocaleDecimalSeparator(), main);
+    AttachHelpKey(&calculator, main->Bench().Ui(), "calc");
     calculator.exec();
   });
 }
