@@ -119,6 +119,7 @@ TEST(PairMeans, JukesCantorOf) {
   EXPECT_FALSE(JukesCantorOf(0.75).has_value());
   EXPECT_FALSE(JukesCantorOf(0.8).has_value());
   EXPECT_NEAR(*JukesCantorOf(0.3), -0.75 * std::log(0.6), 1e-12);
+  EXPECT_FALSE(std::signbit(*JukesCantorOf(0.0)));
 }
 
 // Random coding alignments with few distinct codons per column, some gaps and stops.

@@ -7,6 +7,7 @@ namespace ovelt {
 std::optional<double> JukesCantorOf(double p) {
   const double x = 4.0 / 3.0 * p;
   if (!(x < 1.0)) return std::nullopt;
+  if (x <= 0.0) return 0.0;  // no difference: a distance of 0, not -0
   return -0.75 * std::log(1.0 - x);
 }
 
