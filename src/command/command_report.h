@@ -2,6 +2,8 @@
 // What a command leaves for the output channel once it has computed: the report text, the grids,
 // the chart, and in which windows the result stands. Plain data; the runner hands it over.
 
+#include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -33,6 +35,15 @@ struct CommandReport {
   // The status line once the result stands, for a result that names itself there; otherwise
   // the idle words come back.
   std::optional<std::string> Status;
+  // A table of pairwise comparisons too long for the grid window (output/too_big_prompt.h):
+  // the runner asks whether to save it on a file and streams its rows there, row by row, so
+  // that the rows are never all held as text.
+  struct LongTable {
+    int64_t Rows = 0;
+    // The cells of row `r` (0 .. Rows - 1).
+    std::function<std::vector<std::string>(int64_t r)> Row;
+  };
+  std::optional<LongTable> LongGrid;
 };
 
 }  // namespace ovelt

@@ -29,13 +29,16 @@ std::string RowsAsLines(const OutputGrid& grid, const std::string& separator) {
   return text;
 }
 
-std::string RuledTable(const ResultLabels& labels, const std::string& head,
-                       const OutputGrid& grid) {
+std::string RuleAndHead(const ResultLabels& labels, const std::string& head) {
   const std::string rule(labels.GridRuleLength, '-');
   std::string text = std::string(kCrLf) + rule + kCrLf + kCrLf;
   if (!head.empty()) text += head + kCrLf;
-  text += rule + kCrLf;
-  return text + RowsAsLines(grid, labels.GridCellSeparator);
+  return text + rule + kCrLf;
+}
+
+std::string RuledTable(const ResultLabels& labels, const std::string& head,
+                       const OutputGrid& grid) {
+  return RuleAndHead(labels, head) + RowsAsLines(grid, labels.GridCellSeparator);
 }
 
 }  // namespace
@@ -65,6 +68,14 @@ std::string TitleBlock(const std::string& title, const std::string& body) {
 std::string GridAsText(const ResultLabels& labels, const std::string& head,
                        const OutputGrid& grid) {
   return RuledTable(labels, head, grid);
+}
+
+void StreamGridAsText(std::ostream& out, const ResultLabels& labels, const std::string& head,
+                      int64_t rows,
+                      const std::function<std::vector<std::string>(int64_t)>& row) {
+  out << RuleAndHead(labels, head);
+  for (int64_t r = 0; r < rows && out; ++r)
+    out << JoinCells(row(r), labels.GridCellSeparator) << kCrLf;
 }
 
 std::string SecondTableAsText(const ResultLabels& labels, const OutputGrid& grid) {

@@ -3,7 +3,11 @@
 // block that "prints" a text (the report, the head) adds a line end after it, as the classic
 // Print # statement did.
 
+#include <cstdint>
+#include <functional>
+#include <ostream>
 #include <string>
+#include <vector>
 
 #include "core/line_end.h"
 #include "output/output_grid.h"
@@ -29,6 +33,11 @@ inline constexpr const char* kProgramBanner = " Ovelt  Ver. 4.00.5";
 // row with its cells joined by the code's separator.
 [[nodiscard]] std::string GridAsText(const ResultLabels& labels, const std::string& head,
                                      const OutputGrid& grid);
+
+// The same for a table streamed row by row to `out` (a table too long for the grid window).
+void StreamGridAsText(std::ostream& out, const ResultLabels& labels, const std::string& head,
+                      int64_t rows,
+                      const std::function<std::vector<std::string>(int64_t)>& row);
 
 // The second table, laid out as the grid, its own column titles standing as the head.
 [[nodiscard]] std::string SecondTableAsText(const ResultLabels& labels, const OutputGrid& grid);

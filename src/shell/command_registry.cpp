@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "analyses/divergence/synonymous/synonymous_command.h"
 #include "analyses/polymorphism/diversity/dna_polymorphism_command.h"
 #include "analyses/polymorphism/neutrality/fu_li_command.h"
 #include "analyses/polymorphism/neutrality/fu_li_outgroup_command.h"
@@ -146,23 +147,29 @@ std::vector<CommandEntry> BuildRegistry() {
                  .GridCaption = "Output. Table of: Recombination",
                  .SecondGridCaption = "Output: No. of Mutations and Sites (Intraspecific Data)"},
   });
-  add({
-      .Id = CommandId::kSynonymous,
-      .Title = "Synonymous and NonSyn. Substitutions",
-      .Handler = "MenuSynonymous_Click",
-      .MenuText = "Synonymous and &NonSynonymous Substitutions...",
-      .Checks = {Check::kOneSequence, Check::kCodingNotice},
-      .ChecksText = "one sequence, coding notice",
-      .Dialog = "Form9",
-      .Menu = "Analysis",
-      .CliName = "synonymous",
-      .MinimumSequences = 2,
-      .Labels = {.Title = "Synonymous and NonSyn. Substitutions",
-                 .GridCaption = "Output. Table of: Synonymous and NonSyn. Substitutions",
-                 .SecondGridCaption = "Output: No. of Mutations and Sites (Intraspecific Data)",
-                 .GridTextHead =
-                     "Seq 1       Seq 2        SynDif   SynPos    Ks    NSynDif  NSynPos    Ka"},
-  });
+  // Synonymous
+  add(
+      {
+          .Id = CommandId::kSynonymous,
+          .Title = "Synonymous and NonSyn. Substitutions",
+          .Handler = "MenuSynonymous_Click",
+          .MenuText = "Synonymous and &NonSynonymous Substitutions...",
+          .Checks = {Check::kOneSequence, Check::kCodingNotice},
+          .ChecksText = "one sequence, coding notice",
+          .Dialog = "Form9",
+          .Menu = "Analysis",
+          .CliName = "synonymous",
+          .Description = "Synonymous sites, Pi(s) and Pi(a) with their Jukes and Cantor values, "
+                         "Theta(s) and Theta(a), silent sites (--silent), and the per-pair table "
+                         "(--grid; a file above 16,290 pairs)",
+          .MinimumSequences = 2,
+          .Labels = {.Title = "Synonymous and NonSyn. Substitutions",
+                     .GridCaption = "Output. Table of: Synonymous and NonSyn. Substitutions",
+                     .SecondGridCaption = "Output: No. of Mutations and Sites (Intraspecific Data)",
+                     .GridTextHead = "Seq 1       Seq 2        SynDif   SynPos    Ks    NSynDif  "
+                                     "NSynPos    Ka"},
+      },
+      SynonymousBinding());
   add({
       .Id = CommandId::kHka,
       .Title = "HKA Test",

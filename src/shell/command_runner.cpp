@@ -1,8 +1,12 @@
 #include "shell/command_runner.h"
 
 #include <new>
+#include <optional>
+#include <string>
 
 #include "command/command_failure.h"
+#include "files/whole_file.h"
+#include "output/report_text.h"
 #include "shell/workbench.h"
 
 namespace ovelt {
@@ -36,6 +40,29 @@ void Stop(OutputChannel& channel, Platform& ui, const CommandFailure& failure) {
   }
 }
 
+constexpr const char* kWritingOnFile = "Writing output on a file...";
+
+// A table of pairwise comparisons too long for the grid: on Yes and a file, its rows go there
+// as the grid of a saved output would; on No the result stands without it.
+void SaveLongTable(OutputChannel& channel, Platform& ui, const ResultLabels& labels,
+                   const std::string& head, const CommandReport::LongTable& table) {
+  const std::optional<std::string> path = channel.AskTooBigPairs(table.Rows);
+  if (!path) return;
+  const std::string previous_status = channel.StatusText();
+  channel.SetStatus(kWritingOnFile);
+  WholeFileWriter writer(*path);
+  bool written = writer.Open();
+  if (written) {
+    StreamGridAsText(writer.Stream(), labels, head, table.Rows, table.Row);
+    written = writer.Commit();
+  }
+  if (!written) {
+    channel.TooBigSaved = 0;
+    ui.MessageBox("Can't save the output on the file: " + *path, MsgIcon::kWarning);
+  }
+  channel.SetStatus(previous_status);
+}
+
 void Show(OutputChannel& channel, Platform& ui, const CommandFacts& facts, CommandReport report) {
   channel.ResultCode = facts.ResultCode();
   channel.Labels = facts.Labels;
@@ -46,6 +73,10 @@ void Show(OutputChannel& channel, Platform& ui, const CommandFacts& facts, Comma
   if (report.GridTextHead) channel.SetGridTextHead(*report.GridTextHead);
   for (const CommandReport::Notice& notice : report.Notices)
     ui.MessageBox(notice.Text, notice.Icon);
+  if (report.LongGrid)
+    SaveLongTable(channel, ui, facts.Labels,
+                  report.GridTextHead ? *report.GridTextHead : facts.Labels.GridTextHead,
+                  *report.LongGrid);
   if (report.Graph) channel.SetGraph(std::move(*report.Graph));
   for (const int kind : report.ShowKinds) channel.ShowResult(kind);
   channel.SetBusy(false);

@@ -132,11 +132,14 @@ bool PassesCheck(Check check, const CommandFacts& facts, ActiveData& data, Platf
     case Check::kPrefTable:
       return MensajeNoPrefUnPrefTablaDefined(data, platform) == 0;
     case Check::kCodingNotice:
+      // OK runs the command with every site taken as noncoding: a face that cannot ask answers
+      // Cancel unless the user agreed beforehand.
       if (data.Format.CodingAssigned >= 1) return true;
-      return platform.MessageBox(
+      return platform.AskBeforeChange(
                  "No Protein Coding region defined. All sites will be considered as noncoding "
-                 "positions.",
-                 MsgIcon::kInformation, MsgButtons::kOkCancel) == MsgAnswer::kOk;
+                 "positions." +
+                     file_line,
+                 MsgIcon::kInformation) == MsgAnswer::kOk;
     case Check::kActiveSets: {
       const std::string tail = " Can't compute the Gene Flow between/among populations.";
       if (data.SetCount() == 0) {

@@ -177,8 +177,12 @@ TEST(Cli, CheckRunsTheRefusalsOfACommand) {
   const auto sets = RunOvelt({"check", "gene-flow", three}, home.Path().string());
   EXPECT_EQ(sets.status, 1);
   EXPECT_NE(sets.err.find("(answered No; --yes answers Yes)"), std::string::npos);
+  // Without a coding region every site is taken as noncoding: only with the user's consent.
   const auto syn = RunOvelt({"check", "synonymous", three}, home.Path().string());
-  EXPECT_EQ(syn.status, 0);  // the coding notice goes on
+  EXPECT_EQ(syn.status, 1);
+  EXPECT_NE(syn.err.find("(answered Cancel; add --yes to answer OK)"), std::string::npos);
+  const auto syn_yes = RunOvelt({"check", "synonymous", three, "--yes"}, home.Path().string());
+  EXPECT_EQ(syn_yes.status, 0) << syn_yes.err;
   const auto needs_file = RunOvelt({"check", "dna-polymorphism"}, home.Path().string());
   EXPECT_EQ(needs_file.status, 1);
   EXPECT_EQ(RunOvelt({"check", "independence"}, home.Path().string()).status, 0);

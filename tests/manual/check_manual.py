@@ -10,7 +10,7 @@ of the repository: standard output, then standard error, with the repository's o
 out of the data file's name (the report head names it in full). Each example is run again and
 compared line by line, so that no page can quote an output the program no longer prints.
 
-It also checks that every page linked from the index exists, that every page is linked from the
+It also checks that the table of JSON keys is the README's, that every page linked from the index exists, that every page is linked from the
 index, and that a relative link between pages leads to a page.
 """
 import os
@@ -79,6 +79,25 @@ def check_links(manual, failures):
             failures.append("index.md does not link %s" % page)
 
 
+def json_table(text):
+    """The table of JSON keys in a page: its lines from the "| key | meaning |" row on."""
+    start = text.find("| key | meaning |")
+    if start < 0:
+        return None
+    end = text.find("\n\n", start)
+    return text[start:end if end >= 0 else len(text)]
+
+
+def check_json_keys(repo, manual, failures):
+    # The README and the manual's page on JSON output list the same keys.
+    with open(os.path.join(repo, "README.md"), encoding="utf-8") as f:
+        readme = json_table(f.read())
+    with open(os.path.join(manual, "topics", "json-output.md"), encoding="utf-8") as f:
+        page = json_table(f.read())
+    if readme != page:
+        failures.append("topics/json-output.md: the table of keys is not the README's")
+
+
 def main():
     if len(sys.argv) < 3:
         print(__doc__)
@@ -88,6 +107,7 @@ def main():
     manual = os.path.join(repo, "manual")
     failures = []
     check_links(manual, failures)
+    check_json_keys(repo, manual, failures)
     count = 0
     for page in pages(manual):
         path = os.path.join(manual, page)

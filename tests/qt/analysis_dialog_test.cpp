@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTimer>
@@ -60,6 +61,52 @@ TEST(AnalysisDialogs, DnaPolymorphismRunsFromItsMenuEntryThroughTheGeneratedDial
   EXPECT_TRUE(report.contains(" Number of polymorphic (segregating) sites, S: 3\n"))
       << report.toStdString();
   EXPECT_TRUE(report.contains(" Average number of nucleotide differences, k: 1.500\n"));
+}
+
+TEST(AnalysisDialogs, SynonymousAsksAboutTheCodingRegionThenShowsItsOptions) {
+  TempDir dir;
+  ScriptedPlatform p;
+  p.ProgramDir = dir.Path().string();
+  MainWindow window(p);
+  const std::string file = dir.Write("three.fas", ">a\nCTTAAA\n>b\nCTCAAA\n>c\nCTCGAA\n");
+  ASSERT_TRUE(window.Bench().OpenPath(file));
+  window.Refresh();
+  QAction* action = window.ActionFor("MenuSynonymous_Click");
+  ASSERT_NE(action, nullptr);
+  EXPECT_TRUE(action->isVisible());
+  EXPECT_EQ(action->text(), "Synonymous and &NonSynonymous Substitutions...");
+
+  // Cancel to the question: no dialog.
+  p.Answers.push_back(MsgAnswer::kCancel);
+  int dialogs = 0;
+  action->trigger();
+  ASSERT_FALSE(p.Boxes.empty());
+  EXPECT_EQ(p.Boxes.back().Text,
+            "No Protein Coding region defined. All sites will be considered as noncoding "
+            "positions.\nInput data file: " + window.Bench().Data().FilePath);
+  EXPECT_EQ(p.Boxes.back().Buttons, MsgButtons::kOkCancel);
+
+  // OK: the dialog offers the region, the set, the silent sites, the table and the seed.
+  p.Answers.push_back(MsgAnswer::kOk);
+  std::function<void()> answer = [&] {
+    auto* dialog = qobject_cast<OptionDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    ++dialogs;
+    EXPECT_EQ(dialog->windowTitle(), "Synonymous and NonSyn. Substitutions");
+    QStringList checks;
+    for (auto* box : dialog->findChildren<QCheckBox*>()) checks << box->text();
+    EXPECT_TRUE(checks.contains("Silent")) << checks.join("|").toStdString();
+    EXPECT_TRUE(checks.contains("Table of pairwise comparisons")) << checks.join("|").toStdString();
+    for (auto* box : dialog->findChildren<QCheckBox*>())
+      if (box->text() == "Silent") box->setChecked(true);
+    EXPECT_GE(dialog->findChildren<QLineEdit*>().size(), 3);  // from, to, seed
+    dialog->accept();
+  };
+  QTimer::singleShot(0, answer);
+  action->trigger();
+  EXPECT_EQ(dialogs, 1);
+  const QString report = window.Text()->Report();
+  EXPECT_TRUE(report.contains(" Number non-coding positions analyzed: 6")) << report.toStdString();
 }
 
 }  // namespace

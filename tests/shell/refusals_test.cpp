@@ -121,7 +121,8 @@ TEST_F(Refusals, CodingNoticeGoesOnWithOkAndStopsWithCancel) {
   EXPECT_TRUE(w.BeginCommand(8));
   EXPECT_EQ(p.LastBox(),
             "No Protein Coding region defined. All sites will be considered as noncoding "
-            "positions.");
+            "positions.\nInput data file: " +
+                w.Data().FilePath);
   EXPECT_EQ(p.Boxes.back().Buttons, MsgButtons::kOkCancel);
   w.EndCommand();
   p.Answers.push_back(MsgAnswer::kCancel);

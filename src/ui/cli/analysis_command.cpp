@@ -35,7 +35,11 @@ int RunAndFinish(CommandState& state, const CommandEntry& entry, Workbench& wb,
   // What the dialog would say as the options were picked, said before the run.
   for (const std::string& notice : entry.Binding->ChoiceNotices(*state.options))
     platform.MessageBox(notice, MsgIcon::kInformation, MsgButtons::kOk, "Ovelt", false);
+  // A table too long for the grid is saved on the --grid file (the answer to its save dialog).
+  const std::string& grid = state.job.output.grid;
+  if (!grid.empty() && grid != "-") platform.save_name = grid;
   const RunOutcome outcome = RunCommand(wb, entry, *state.options, !state.json.empty());
+  platform.save_name.reset();
   if (needs_data) wb.EndCommand();
   if (!outcome.Stands) return kCliRefused;
   if (!state.json.empty() && !WriteJsonFile(state.json, outcome.Json, platform, s.out))

@@ -85,7 +85,9 @@ bool FinishOutput(const OutputOptions& o, Workbench& wb, const std::string& titl
   }
   bool ok = true;
   if (!o.out.empty()) ok = channel.SaveCurrentOutput(o.out) && ok;
-  if (!o.grid.empty()) ok = WriteGridTsv(channel.Grid1, o.grid, wb.Ui(), out) && ok;
+  // A table too long for the grid was written to the --grid file already.
+  if (!o.grid.empty() && channel.TooBigSaved == 0)
+    ok = WriteGridTsv(channel.Grid1, o.grid, wb.Ui(), out) && ok;
   if (!o.graph.empty()) ok = WriteGraphFile(channel, o.graph, wb.Ui()) && ok;
   return channel.CloseSessionFile() && ok;
 }
