@@ -1,0 +1,25 @@
+#include "analyses/divergence/dna_divergence/dna_divergence_compute.h"
+
+#include "analyses/divergence/common/site_dxy.h"
+
+namespace ovelt {
+
+DnaDivergenceResult ComputeDnaDivergence(const Selection& sel, bool compute_variances,
+                                         const Progress& progress) {
+  DnaDivergenceResult r;
+  r.RegionFrom = sel.Region.RegionFrom;
+  r.RegionTo = sel.Region.RegionTo;
+  r.N1 = sel.SelCount1;
+  r.N2 = sel.SelCount2;
+  r.SiteDxy = BuildSiteDxy(sel);
+  r.Sums = SumDivergence(sel, r.SiteDxy, r.RegionFrom, r.RegionTo);
+  r.Kinds = CountMutationKinds(sel, r.SiteDxy, r.RegionFrom, r.RegionTo);
+  if (compute_variances && r.Sums.L >= 1) {
+    r.JukesCantor = ComputeDivergenceJukesCantor(sel, r.SiteDxy, r.RegionFrom, r.RegionTo,
+                                                 r.Sums.L, progress);
+    r.Variances = ComputeDivergenceVariances(*r.JukesCantor, progress);
+  }
+  return r;
+}
+
+}  // namespace ovelt
