@@ -5,8 +5,6 @@
 namespace ovelt {
 namespace {
 
-constexpr int16_t kGapClass = 5;
-
 // Variants of a polymorphic class: classes 1 and 2 hold two.
 int32_t VariantsOfClass(int16_t site_class) { return site_class <= 2 ? 2 : site_class; }
 
@@ -48,7 +46,7 @@ int32_t MutationsOfClass(int16_t site_class) {
 }
 
 void AddSiteMutationKinds(const SiteVariants& s, MutationKinds& k) {
-  if (s.Class1 == kGapClass || s.Class2 == kGapClass) return;
+  if (s.Class1 == kGapOrMissing || s.Class2 == kGapOrMissing) return;
   if (s.Dxy == 1.0) {
     // Every pair differs: one fixed difference, and the variants within each population beyond
     // the first are its own (a third variant one more).
@@ -103,7 +101,7 @@ MutationKinds CountMutationKinds(const Selection& sel, const std::vector<double>
     SiteVariants s;
     s.Class1 = sel.SelSiteClass1[at];
     s.Class2 = sel.SelSiteClass2[at];
-    if (s.Class1 == kGapClass || s.Class2 == kGapClass) continue;
+    if (s.Class1 == kGapOrMissing || s.Class2 == kGapOrMissing) continue;
     s.H1 = sel.SelSiteDiversity1[at];
     s.H2 = sel.SelSiteDiversity2[at];
     s.Dxy = site_dxy[at];

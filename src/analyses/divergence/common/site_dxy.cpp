@@ -5,8 +5,6 @@
 namespace ovelt {
 namespace {
 
-constexpr int16_t kGapClass = 5;
-
 // Count of each symbol at `site` over the first `seqs` sequences of `matrix`.
 std::array<int64_t, 256> SymbolCounts(const SeqMatrix& matrix, int32_t seqs, int32_t site) {
   std::array<int64_t, 256> counts{};
@@ -19,7 +17,7 @@ std::array<int64_t, 256> SymbolCounts(const SeqMatrix& matrix, int32_t seqs, int
 double SiteDxyValue(const SeqMatrix& pop1, int32_t n1, int16_t class1, const SeqMatrix& pop2,
                     int32_t n2, int16_t class2, int32_t site) {
   if (n1 < 1 || n2 < 1) return 0.0;
-  if (class1 == kGapClass || class2 == kGapClass) return 0.0;
+  if (class1 == kGapOrMissing || class2 == kGapOrMissing) return 0.0;
   if (class1 == 0 && class2 == 0) return pop1.at(site, 1) != pop2.at(site, 1) ? 1.0 : 0.0;
   // Pairs that agree are those of the same symbol: the sum over the symbols of c1 x c2.
   const auto counts1 = SymbolCounts(pop1, n1, site);

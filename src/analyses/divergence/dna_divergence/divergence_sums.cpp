@@ -3,9 +3,6 @@
 #include "analyses/divergence/common/mutation_kinds.h"
 
 namespace ovelt {
-namespace {
-constexpr int16_t kGapClass = 5;
-}  // namespace
 
 DivergenceSums SumDivergence(const Selection& sel, const std::vector<double>& site_dxy,
                              int32_t from, int32_t to) {
@@ -15,7 +12,7 @@ DivergenceSums SumDivergence(const Selection& sel, const std::vector<double>& si
     const auto at = static_cast<size_t>(site);
     const int16_t class1 = sel.SelSiteClass1[at];
     const int16_t class2 = sel.SelSiteClass2[at];
-    if (class1 == kGapClass || class2 == kGapClass) {
+    if (class1 == kGapOrMissing || class2 == kGapOrMissing) {
       --r.L;
       continue;
     }
