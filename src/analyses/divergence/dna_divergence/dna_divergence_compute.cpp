@@ -7,6 +7,16 @@ namespace ovelt {
 DnaDivergenceResult ComputeDnaDivergence(const Selection& sel, bool compute_variances,
                                          const Progress& progress) {
   DnaDivergenceResult r;
+  const ActiveData& ad = sel.data();
+  r.FilePath = ad.FilePath;
+  r.GapsExcludedInFile = ad.GapsInSets == 2;
+  const auto set_name = [&ad](int16_t set) {
+    return set > 0 && set <= ad.SetCount() ? ad.SequenceSets[static_cast<size_t>(set)].nombre()
+                                           : std::string();
+  };
+  r.Name1 = set_name(sel.SelSet1);
+  r.Name2 = set_name(sel.SelSet2);
+  r.ComputeVariances = compute_variances;
   r.RegionFrom = sel.Region.RegionFrom;
   r.RegionTo = sel.Region.RegionTo;
   r.N1 = sel.SelCount1;

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "analyses/divergence/common/mutation_kinds.h"
@@ -17,6 +18,10 @@
 namespace ovelt {
 
 struct DnaDivergenceResult {
+  std::string FilePath;
+  bool GapsExcludedInFile = false;  // `GapsInSets` 2
+  std::string Name1, Name2;         // the names of the two sequence sets
+  bool ComputeVariances = false;
   int32_t RegionFrom = 0, RegionTo = 0;
   int32_t N1 = 0, N2 = 0;
   std::vector<double> SiteDxy;  // every site of the file, index 0 unused
