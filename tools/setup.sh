@@ -10,8 +10,9 @@ preset=${1:-release}
 packages=(cmake g++ make qt6-base-dev qt6-svg-dev libcli11-dev libgtest-dev libgmock-dev
           libbenchmark-dev)
 if [ "$preset" = fuzz ]; then packages+=(clang libclang-rt-14-dev); fi
-# An independent reader of the files the writers make, for the interoperability test.
-if [ "$preset" = release ]; then packages+=(python3-biopython); fi
+# Independent checks: a reader of the files the writers make (Biopython), and the
+# Nei-Gojobori counts of yn00 (PAML) for the synonymous substitutions.
+if [ "$preset" = release ]; then packages+=(python3-biopython paml); fi
 
 missing=()
 for p in "${packages[@]}"; do
