@@ -26,17 +26,7 @@ struct DivergenceWindow {
   }
 };
 
-struct DivergenceWindows {
-  SlidingWindowSpec Geometry;
-  int32_t Capacity = 0;  // R, the most windows the region could hold
-  std::vector<DivergenceWindow> Rows;
-
-  template <class V>
-  void Visit(V& v) const {
-    Geometry.Visit(v);
-    v.Array("windows", Rows);
-  }
-};
+using DivergenceWindows = WindowRun<DivergenceWindow>;
 
 // Class 5 where either population has class 5, the first population's class elsewhere: what
 // the window geometry reads.

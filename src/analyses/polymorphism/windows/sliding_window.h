@@ -91,6 +91,21 @@ struct WindowBounds {
   }
 };
 
+// The windows of one run: their geometry, how many the region could hold, and one row per
+// window (a struct with `Window` and its own `Visit`).
+template <class Row>
+struct WindowRun {
+  SlidingWindowSpec Geometry;
+  int32_t Capacity = 0;  // R, the most windows the region could hold
+  std::vector<Row> Rows;
+
+  template <class V>
+  void Visit(V& v) const {
+    Geometry.Visit(v);
+    v.Array("windows", Rows);
+  }
+};
+
 // Every window of from..to in order: the first starts at `from`, each next one where
 // NextWindowStart puts it, and the last is the first whose end reaches `to` (it may be shorter
 // than the rest). Cost: the sum of the window lengths.

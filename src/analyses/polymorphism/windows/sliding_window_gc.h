@@ -34,17 +34,7 @@ struct GcWindow {
   }
 };
 
-struct GcWindows {
-  SlidingWindowSpec Geometry;
-  int32_t Capacity = 0;
-  std::vector<GcWindow> Rows;
-
-  template <class V>
-  void Visit(V& v) const {
-    Geometry.Visit(v);
-    v.Array("windows", Rows);
-  }
-};
+using GcWindows = WindowRun<GcWindow>;
 
 // Over from..to of the first selection, with the geometry of the other window drivers.
 [[nodiscard]] GcWindows ComputeGcWindows(const Selection& sel, int32_t from, int32_t to,

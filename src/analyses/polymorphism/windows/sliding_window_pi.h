@@ -32,17 +32,7 @@ struct PiThetaWindow {
   }
 };
 
-struct PiThetaWindows {
-  SlidingWindowSpec Geometry;
-  int32_t Capacity = 0;  // R, the most windows the region could hold
-  std::vector<PiThetaWindow> Rows;
-
-  template <class V>
-  void Visit(V& v) const {
-    Geometry.Visit(v);
-    v.Array("windows", Rows);
-  }
-};
+using PiThetaWindows = WindowRun<PiThetaWindow>;
 
 // Over from..to of the first selection. The gauge rises with row / R.
 [[nodiscard]] PiThetaWindows ComputePiThetaWindows(const Selection& sel, int32_t from, int32_t to,
