@@ -19,6 +19,7 @@
 #include "command/command_binding.h"
 #include "command/command_failure.h"
 #include "command/result_json.h"
+#include "command/result_table.h"
 #include "core/minimum_sequences.h"
 #include "core/selection.h"
 
@@ -84,6 +85,8 @@ class AnalysisBinding final : public CommandBinding {
     const Result result = parts_.Compute(selection, options, context.Progress);
     CommandProduct product;
     product.Report = parts_.Report(result, selection, options);
+    if (!product.Report.GridArray.empty())
+      product.Report.Grid1.Data = ResultArrayTable(result, product.Report.GridArray);
     product.Region = selection.Region;
     product.Used = UsedBy(selection);
     if (context.WantJson) product.Json = ResultJson(parts_.JsonName, result);

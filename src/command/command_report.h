@@ -20,6 +20,9 @@ struct CommandReport {
   std::string Head;
   std::string Body;
   OutputGrid Grid1;
+  // The result's array (its JSON keys joined by '.', e.g. "sliding_window.windows") whose rows
+  // Grid1 shows: the binding makes Grid1.Data from it, for the --grid file.
+  std::string GridArray;
   OutputGrid Grid2;
   // The head of the grid in saved output when the result words it its own way.
   std::optional<std::string> GridTextHead;

@@ -21,6 +21,7 @@
 #include "command/command_binding.h"
 #include "command/command_failure.h"
 #include "command/result_json.h"
+#include "command/result_table.h"
 
 namespace ovelt {
 
@@ -65,6 +66,8 @@ class ToolBinding final : public CommandBinding {
     auto result = std::make_shared<const Result>(parts_.Compute(options, context.Progress));
     CommandProduct product;
     product.Report = parts_.Report(*result, options);
+    if (!product.Report.GridArray.empty())
+      product.Report.Grid1.Data = ResultArrayTable(*result, product.Report.GridArray);
     if (context.WantJson) product.Json = ResultJson(parts_.JsonName, *result);
     product.Result = std::move(result);
     return product;

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <cstdio>
 
+#include "output/data_table.h"
+
 namespace ovelt {
 
 void JsonText::Key(std::string_view key) {
@@ -37,9 +39,7 @@ std::string JsonText::Quoted(std::string_view text) {
 
 std::string JsonText::NumberText(double value) {
   if (!std::isfinite(value)) return "null";
-  char buffer[32];
-  std::snprintf(buffer, sizeof buffer, "%.17g", value);
-  return buffer;
+  return ShortestNumberText(value);
 }
 
 JsonText& JsonText::BeginObject(std::string_view key) {

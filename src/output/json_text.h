@@ -1,8 +1,8 @@
 #pragma once
 // A small writer of JSON text for the --json output of the command line: a result struct
-// written as one object of numbers, texts, arrays and nested objects. Numbers are written with
-// 17 significant digits so that a script reads back the very double that was computed; values
-// that are not finite are written as null.
+// written as one object of numbers, texts, arrays and nested objects. Numbers are written in
+// their shortest form that reads back as the very double that was computed; values that are
+// not finite are written as null.
 
 #include <cstdint>
 #include <string>

@@ -5,16 +5,21 @@
 #include <string>
 #include <vector>
 
+#include "output/data_table.h"
+
 namespace ovelt {
 
 struct OutputGrid {
   std::vector<std::string> ColumnTitles;        // the fixed top row of the window
   std::vector<std::vector<std::string>> Rows;   // data rows, top to bottom
+  // The same rows for scripts (--grid): values as computed, columns named as in the JSON.
+  DataTable Data;
 
   [[nodiscard]] bool Empty() const { return ColumnTitles.empty() && Rows.empty(); }
   void Clear() {
     ColumnTitles.clear();
     Rows.clear();
+    Data.Clear();
   }
 };
 

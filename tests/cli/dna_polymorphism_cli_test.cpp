@@ -2,6 +2,7 @@
 
 #include "cli/cli_runner.h"
 #include "support/temp_dir.h"
+#include "support/tsv_reader.h"
 
 namespace ovelt {
 namespace {
@@ -9,6 +10,7 @@ namespace {
 using testing::ReadBytes;
 using testing::RunOvelt;
 using testing::TempDir;
+using testing::TsvTable;
 
 // The five sequences worked by hand in the polymorphism tests: L = 8, S = 5, Eta = 6,
 // h = 5, Pi = 0.3125, V(Pi) = 0.002025.
@@ -39,11 +41,15 @@ TEST(DnaPolymorphismCli, SlidingWindowWritesTheGrid) {
                            "--step", "2", "--grid", grid},
                           dir.Path().string());
   EXPECT_EQ(r.status, 0) << r.err;
-  EXPECT_EQ(ReadBytes(grid),
-            "Window\tMidpoint\tPi\tTheta\tS\n"
-            "        1-4\t    2\t0.25000\t0.24000\t   2\n"
-            "        3-6\t    4\t0.25000\t0.24000\t   2\n"
-            "        5-9\t    6\t0.37500\t0.36000\t   3\n");
+  const TsvTable tsv = TsvTable::Parse(ReadBytes(grid));
+  EXPECT_EQ(tsv.Keys, (std::vector<std::string>{"start", "end", "net_sites", "midpoint", "pi",
+                                                "theta_site", "segregating_sites"}));
+  ASSERT_EQ(tsv.Rows.size(), 3u);
+  const std::vector<std::vector<double>> expected = {
+      {1, 4, 4, 2, 0.25, 0.24, 2}, {3, 6, 4, 4, 0.25, 0.24, 2}, {5, 9, 4, 6, 0.375, 0.36, 3}};
+  for (size_t i = 0; i < expected.size(); ++i)
+    for (size_t c = 0; c < tsv.Keys.size(); ++c)
+      EXPECT_NEAR(std::stod(tsv.Rows[i][c]), expected[i][c], 1e-12) << i << " " << tsv.Keys[c];
   EXPECT_NE(r.out.find("   Window length: 4     Step size: 2\n"), std::string::npos);
 }
 

@@ -129,7 +129,7 @@ TEST_F(SafeWriteCli, EveryWrittenFileIsWholeOrNotThere) {
   const std::vector<Case> cases = {
       {"out", {"dna-polymorphism", kExample, "--out"}},
       {"json", {"dna-polymorphism", kExample, "--json"}},
-      {"grid", {"info", kExample, "--grid"}},
+      {"grid", {"sites", kExample, "--grid"}},
       {"session", {"dna-polymorphism", kExample, "--session"}},
       {"export", {"export", kExample, "--format", "nexus", "-o"}},
   };

@@ -32,8 +32,12 @@ TEST(JsonText, WritesNestedObjectsAndArrays) {
 TEST(JsonText, NumbersReadBackExactlyAndNonFiniteIsNull) {
   JsonText json;
   json.BeginObject().Number("third", 1.0 / 3.0).Number("nan", std::nan("")).EndObject();
-  EXPECT_EQ(json.Text(), "{\"third\":0.33333333333333331,\"nan\":null}");
-  EXPECT_EQ(std::stod("0.33333333333333331"), 1.0 / 3.0);
+  // The shortest text that reads back as the same double.
+  EXPECT_EQ(json.Text(), "{\"third\":0.3333333333333333,\"nan\":null}");
+  EXPECT_EQ(std::stod("0.3333333333333333"), 1.0 / 3.0);
+  JsonText tenth;
+  tenth.BeginObject().Number("a", 0.1).Number("b", 0.1 * 3).Number("c", 1e-300).EndObject();
+  EXPECT_EQ(tenth.Text(), "{\"a\":0.1,\"b\":0.30000000000000004,\"c\":1e-300}");
 }
 
 }  // namespace

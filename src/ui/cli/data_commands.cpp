@@ -28,7 +28,13 @@ int RunInfo(const FileJob& job, const CliStreams& s) {
   const std::string annotations = DataAnnotationsText(wb.Data());
   channel.AppendText(DataInformationText(rows) + (annotations.empty() ? "" : "\r\n" + annotations));
   channel.Grid1.ColumnTitles = {"", kDataInformationTitle};
-  for (const auto& [label, value] : rows) channel.Grid1.Rows.push_back({label, value});
+  channel.Grid1.Data.Keys = {"item", "value"};
+  for (const auto& [label, value] : rows) {
+    channel.Grid1.Rows.push_back({label, value});
+    const size_t indent = label.find_first_not_of(' ');
+    channel.Grid1.Data.Rows.push_back(
+        {indent == std::string::npos ? std::string() : label.substr(indent), value});
+  }
   channel.Labels.Title = kDataInformationTitle;
   channel.ShowResult(kResultTextOnly);
   return FinishOutput(job.output, wb, kDataInformationTitle, s.out) ? kCliDone : kCliRefused;

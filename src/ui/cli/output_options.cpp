@@ -24,10 +24,18 @@ std::string WithNewlines(const std::string& text) {
   return plain;
 }
 
+std::string Trimmed(const std::string& cell) {
+  const size_t first = cell.find_first_not_of(' ');
+  if (first == std::string::npos) return {};
+  return cell.substr(first, cell.find_last_not_of(' ') - first + 1);
+}
+
+// The table for scripts when the result made one; otherwise the window's cells, trimmed.
 std::string GridTsv(const OutputGrid& grid) {
+  if (!grid.Data.Empty()) return DataTableTsv(grid.Data);
   std::string text;
   auto add_row = [&text](const std::vector<std::string>& cells) {
-    for (size_t i = 0; i < cells.size(); ++i) text += (i ? "\t" : "") + cells[i];
+    for (size_t i = 0; i < cells.size(); ++i) text += (i ? "\t" : "") + Trimmed(cells[i]);
     text += "\n";
   };
   if (!grid.ColumnTitles.empty()) add_row(grid.ColumnTitles);

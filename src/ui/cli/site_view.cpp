@@ -78,11 +78,16 @@ bool RunSiteView(Workbench& wb, const SiteViewOptions& o) {
   channel.AppendText(text);
 
   channel.Grid1.ColumnTitles = {"Site", "Class", "Diversity", "CodonPosition", "CodingFlag"};
+  channel.Grid1.Data.Keys = {"site", "site_class", "diversity", "codon_position", "coding_flag"};
   for (int32_t s = from; s <= to; ++s) {
     const auto i = static_cast<size_t>(s);
-    channel.Grid1.Rows.push_back({std::to_string(s), std::to_string(sel.SelSiteClass1[i]),
+    const int16_t site_class = sel.SelSiteClass1[i];
+    channel.Grid1.Rows.push_back({std::to_string(s), std::to_string(site_class),
                                   Format(sel.SelSiteDiversity1[i], "0.00000"),
                                   std::to_string(d.CodonPosition[i]), d.CodingFlag[i]});
+    channel.Grid1.Data.Rows.push_back({int64_t{s}, std::string(kClassNames[static_cast<size_t>(site_class)]),
+                                       sel.SelSiteDiversity1[i], int64_t{d.CodonPosition[i]},
+                                       d.CodingFlag[i]});
   }
   channel.Labels.Title = "Site Classes";
   channel.ShowResult(kResultTextAndGrid);

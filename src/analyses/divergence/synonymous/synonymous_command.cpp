@@ -49,6 +49,7 @@ CommandReport Report(const SynonymousResult& result, const Selection& sel,
     return report;
   }
   report.Grid1.ColumnTitles = SynonymousPairTitles(silent);
+  report.GridArray = "pair_table";
   report.Grid1.Rows.reserve(static_cast<size_t>(rows));
   for (int32_t i = 1; i < n; ++i)
     for (int32_t j = i + 1; j <= n; ++j) report.Grid1.Rows.push_back(SynonymousPairCells(result, i, j));

@@ -62,10 +62,12 @@ CommandReport Report(const DnaPolOutcome& outcome, const Selection& sel, const D
   try {
     if (outcome.Gc) {
       report.Grid1.ColumnTitles = GcGridTitles();
+      report.GridArray = "gc_windows.windows";
       for (const GcWindow& row : outcome.Gc->Rows) report.Grid1.Rows.push_back(GcGridRow(row));
       report.Graph = GcGraph(*outcome.Gc);
     } else {
       report.Grid1.ColumnTitles = PiThetaGridTitles();
+      report.GridArray = "sliding_window.windows";
       report.Grid1.Rows.reserve(result.Windows->Rows.size());
       for (const PiThetaWindow& row : result.Windows->Rows)
         report.Grid1.Rows.push_back(PiThetaGridRow(row));

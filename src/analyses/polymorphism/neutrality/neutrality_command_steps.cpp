@@ -18,6 +18,7 @@ void AddWindowTable(CommandReport& report, const std::string& file_name,
   try {
     report.Grid1.ColumnTitles = titles;
     report.Grid1.Rows = rows();
+    report.GridArray = "sliding_window.windows";
     report.Graph = make_graph();
   } catch (const std::exception&) {
     FailTooBig("Input data file: " + file_name + "\n" + kOutputTooBig + "\n" + kIncreaseStep);

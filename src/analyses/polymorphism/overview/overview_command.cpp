@@ -131,6 +131,7 @@ CommandReport ReportDomains(const MultiDomainResult& result, const Selection&,
   CommandReport report;
   report.Body = JoinCells(MultiDomainLongHeads()) + "\r\n";
   report.Grid1.ColumnTitles = MultiDomainShortHeads();
+  report.GridArray = "domains";
   for (const MultiDomainRow& row : rows) {
     std::vector<std::string> cells = MultiDomainCells(row);
     report.Body += JoinCells(cells) + "\r\n";

@@ -58,6 +58,7 @@ CommandReport Report(const SizeChangeResult& result, const Selection& sel,
   }
   report.Grid1.ColumnTitles = SizeChangeColumnTitles(result);
   report.Grid1.Rows = SizeChangeGridRows(result);
+  report.GridArray = "table";
   report.GridTextHead = SizeChangeGridTextHead(result);
   report.Graph = SizeChangeChart(SizeChangeGraphData(result));
   report.ShowKinds = {kResultTextAndGrid, kResultAddGraph};
