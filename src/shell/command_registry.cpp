@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "analyses/divergence/dna_divergence/dna_divergence_command.h"
 #include "analyses/divergence/synonymous/synonymous_command.h"
 #include "analyses/polymorphism/diversity/dna_polymorphism_command.h"
 #include "analyses/polymorphism/neutrality/fu_li_command.h"
@@ -63,22 +64,29 @@ std::vector<CommandEntry> BuildRegistry() {
                      .GridTextHead = "     Window  Midpoint  Pi     Theta      S"},
       },
       DnaPolymorphismBinding());
-  add({
-      .Id = CommandId::kDnaDivergence,
-      .Title = "DNA Divergence Between Populations",
-      .Handler = "MenuDnaDiverg2_Click",
-      .MenuText = "DNA Divergence &Between Populations...",
-      .Checks = {Check::kTwoSets},
-      .ChecksText = "two sets",
-      .Dialog = "Form11b",
-      .Menu = "Analysis",
-      .CliName = "dna-divergence",
-      .Labels = {.Title = "DNA Divergence Between Populations",
-                 .TextCaption = "Output: DNA Div. Between Populations",
-                 .GridCaption = "Output: Table",
-                 .SecondGridCaption = "Output: No. of Mutations and Sites (Intraspecific Data)",
-                 .GridTextHead = "     Window Midpoint Pi(1)    Pi(2)     Dxy       Da"},
-  });
+  // DnaDivergence
+  add(
+      {
+          .Id = CommandId::kDnaDivergence,
+          .Title = "DNA Divergence Between Populations",
+          .Handler = "MenuDnaDiverg2_Click",
+          .MenuText = "DNA Divergence &Between Populations...",
+          .Checks = {Check::kTwoSets},
+          .ChecksText = "two sets",
+          .Dialog = "Form11b",
+          .Menu = "Analysis",
+          .CliName = "dna-divergence",
+          .Description = "Pi within two populations, Dxy and Da between them, fixed, private and "
+                         "shared mutations; Jukes and Cantor values with their standard "
+                         "deviations; Pi(1), Pi(2), Dxy and Da along a sliding window",
+          .Labels = {.Title = "DNA Divergence Between Populations",
+                     .TextCaption = "Output: DNA Div. Between Populations",
+                     .GridCaption = "Output: Table",
+                     .SecondGridCaption =
+                         "Output: No. of Mutations and Sites (Intraspecific Data)",
+                     .GridTextHead = "     Window Midpoint Pi(1)    Pi(2)     Dxy       Da"},
+      },
+      DnaDivergenceBinding());
   add({
       .Id = CommandId::kLinkageDisequilibrium,
       .Title = "Linkage Disequilibrium",

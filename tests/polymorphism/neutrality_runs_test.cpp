@@ -48,7 +48,7 @@ RegionSelection RegionOf(const ActiveData& ad, int32_t from, int32_t to) {
 template <class Options>
 std::optional<SlidingWindowSpec> WindowOf(const ActiveData& ad, const Options& o) {
   if (!o.SlidingOn) return std::nullopt;
-  return NeutralityWindow(o.WindowLength, o.StepSize, ad.NumSites, ad.GapsInWindow);
+  return ChosenWindow(o.WindowLength, o.StepSize, ad.NumSites, ad.GapsInWindow);
 }
 
 // The results the runs must show, computed straight on the selection of the options.

@@ -40,7 +40,10 @@ class OptionFlagBinder final : public OptionVisitor {
   }
   void SetIndex(int16_t& index, const OptionField& field) override {
     auto name = std::make_shared<std::string>();
-    app_.add_option("--" + field.key, *name, field.help + " (a set named with --set-def)");
+    // The second set of a dialog is also --set2, whatever the dialog calls it (--outgroup).
+    std::string flags = "--" + field.key;
+    if (pending_.sets.size() == 1 && field.key != "set2") flags += ",--set2";
+    app_.add_option(flags, *name, field.help + " (a set named with --set-def)");
     pending_.sets.push_back({&index, name, field.key});
   }
   void Flag(bool& value, const OptionField& field) override {

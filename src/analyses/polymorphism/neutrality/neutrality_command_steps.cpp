@@ -7,10 +7,6 @@
 
 namespace ovelt {
 
-RegionSelection RunRegion(int32_t from, int32_t to, int32_t num_sites) {
-  return {from, to == 0 ? num_sites : to};
-}
-
 void AddWindowTable(CommandReport& report, const std::string& file_name,
                     const std::vector<std::string>& titles,
                     const std::function<std::vector<std::vector<std::string>>()>& rows,

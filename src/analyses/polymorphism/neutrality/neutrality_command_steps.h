@@ -8,23 +8,12 @@
 #include <vector>
 
 #include "analyses/polymorphism/neutrality/neutrality_options.h"
-#include "analyses/polymorphism/windows/sliding_window.h"
+#include "analyses/polymorphism/windows/window_options.h"
 #include "command/analysis_binding.h"
 #include "command/command_report.h"
 #include "core/selection.h"
 
 namespace ovelt {
-
-// The region of a run: the options' range, 0 as its end standing for the last site.
-[[nodiscard]] RegionSelection RunRegion(int32_t from, int32_t to, int32_t num_sites);
-
-// The window of a run, when the sliding window is on.
-template <class Options>
-[[nodiscard]] std::optional<SlidingWindowSpec> RunWindow(const Options& options,
-                                                         const ActiveData& data) {
-  if (!options.SlidingOn) return std::nullopt;
-  return NeutralityWindow(options.WindowLength, options.StepSize, data.NumSites, data.GapsInWindow);
-}
 
 // Puts the grid of the windows and their chart in `report`, shown with the text. A fault while
 // filling them is a result too big to show: "Output too big" and the run ends.
