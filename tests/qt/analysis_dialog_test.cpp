@@ -5,10 +5,13 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTableWidget>
 #include <QTimer>
 
+#include "core/set_definition.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
+#include "ui/qt/grid_window.h"
 #include "ui/qt/main_window.h"
 #include "ui/qt/option_dialog.h"
 #include "ui/qt/text_window.h"
@@ -107,6 +110,63 @@ TEST(AnalysisDialogs, SynonymousAsksAboutTheCodingRegionThenShowsItsOptions) {
   EXPECT_EQ(dialogs, 1);
   const QString report = window.Text()->Report();
   EXPECT_TRUE(report.contains(" Number non-coding positions analyzed: 6")) << report.toStdString();
+}
+
+}  // namespace
+}  // namespace ovelt
+
+namespace ovelt {
+namespace {
+
+TEST(AnalysisDialogs, DnaDivergenceTakesTwoPopulationsAndShowsItsWindows) {
+  TempDir dir;
+  ScriptedPlatform p;
+  p.ProgramDir = dir.Path().string();
+  MainWindow window(p);
+  // A = a, b; B = c, d. Site 1 is a fixed difference; site 4 is polymorphic in A only.
+  const std::string file = dir.Write("two.fas", ">a\nACGT\n>b\nACGA\n>c\nTCGA\n>d\nTCGA\n");
+  ASSERT_TRUE(window.Bench().OpenPath(file));
+  ASSERT_FALSE(AddSequenceSet(window.Bench().Data(), "A", {1, 2}).has_value());
+  ASSERT_FALSE(AddSequenceSet(window.Bench().Data(), "B", {3, 4}).has_value());
+  window.Refresh();
+  QAction* action = window.ActionFor("MenuDnaDiverg2_Click");
+  ASSERT_NE(action, nullptr);
+  EXPECT_TRUE(action->isVisible());
+
+  int dialogs = 0;
+  std::function<void()> answer = [&] {
+    auto* dialog = qobject_cast<OptionDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    ++dialogs;
+    EXPECT_EQ(dialog->windowTitle(), "DNA Divergence Between Populations");
+    for (auto* box : dialog->findChildren<QCheckBox*>())
+      if (box->text() == "Sliding Window") box->setChecked(true);
+    // The window and step fields come after the region's two.
+    auto edits = dialog->findChildren<QLineEdit*>();
+    ASSERT_EQ(edits.size(), 4);
+    edits[2]->setText("2");
+    edits[3]->setText("2");
+    dialog->accept();
+  };
+  QTimer::singleShot(0, answer);
+  action->trigger();
+  EXPECT_EQ(dialogs, 1);
+  const QString report = window.Text()->Report();
+  EXPECT_TRUE(report.contains(" Population 1: A\n")) << report.toStdString();
+  EXPECT_TRUE(report.contains("   Number of fixed differences: 1\n")) << report.toStdString();
+  EXPECT_TRUE(report.contains(
+      "   Average number of nuc. subs. per site between populations, Dxy: 0.37500\n"));
+  ASSERT_NE(window.Grid(), nullptr);
+  QTableWidget* table = window.Grid()->Table();
+  ASSERT_GE(table->rowCount(), 2);
+  ASSERT_GE(table->columnCount(), 6);
+  // Two windows; the rows below them stay empty.
+  if (table->rowCount() > 2 && table->item(2, 0) != nullptr) {
+    EXPECT_TRUE(table->item(2, 0)->text().trimmed().isEmpty());
+  }
+  EXPECT_EQ(table->horizontalHeaderItem(4)->text(), "Dxy");
+  // Sites 1-2: the fixed difference alone, Dxy = 1/2.
+  EXPECT_EQ(table->item(0, 4)->text().trimmed(), "0.50000");
 }
 
 }  // namespace
