@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "analyses/divergence/dna_divergence/dna_divergence_command.h"
+#include "analyses/divergence/gene_conversion/gene_conversion_command.h"
 #include "analyses/divergence/synonymous/synonymous_command.h"
 #include "analyses/polymorphism/diversity/dna_polymorphism_command.h"
 #include "analyses/polymorphism/neutrality/fu_li_command.h"
@@ -124,22 +125,28 @@ std::vector<CommandEntry> BuildRegistry() {
                      .GridTextHead = "     Window Midpoint  D     Sign"},
       },
       TajimaBinding());
-  add({
-      .Id = CommandId::kGeneConversion,
-      .Title = "Gene Conversion",
-      .Handler = "MenuGeneConversionNew_Click",
-      .MenuText = "Gene &Conversion...",
-      .Checks = {Check::kTwoSets},
-      .ChecksText = "two sets",
-      .Dialog = "Form11b",
-      .Menu = "Analysis",
-      .CliName = "gene-conversion",
-      .Labels = {.Title = "Gene Conversion",
-                 .TextCaption = "Output: Gene Conversion",
-                 .GridCaption = "Output: Table",
-                 .SecondGridCaption = "Output: No. of Mutations and Sites (Intraspecific Data)",
-                 .GridTextHead = "     Window Midpoint  Psi"},
-  });
+  // GeneConversion
+  add(
+      {
+          .Id = CommandId::kGeneConversion,
+          .Title = "Gene Conversion",
+          .Handler = "MenuGeneConversionNew_Click",
+          .MenuText = "Gene &Conversion...",
+          .Checks = {Check::kTwoSets},
+          .ChecksText = "two sets",
+          .Dialog = "Form11b",
+          .Menu = "Analysis",
+          .CliName = "gene-conversion",
+          .Description = "Gene conversion tracts between two populations and Psi, the informative "
+                         "sites per site (Betran et al. 1997); Psi along a sliding window",
+          .Labels = {.Title = "Gene Conversion",
+                     .TextCaption = "Output: Gene Conversion",
+                     .GridCaption = "Output: Table",
+                     .SecondGridCaption =
+                         "Output: No. of Mutations and Sites (Intraspecific Data)",
+                     .GridTextHead = "     Window Midpoint  Psi"},
+      },
+      GeneConversionBinding());
   add({
       .Id = CommandId::kRecombination,
       .Title = "Recombination",

@@ -171,3 +171,48 @@ TEST(AnalysisDialogs, DnaDivergenceTakesTwoPopulationsAndShowsItsWindows) {
 
 }  // namespace
 }  // namespace ovelt
+
+namespace ovelt {
+namespace {
+
+TEST(AnalysisDialogs, GeneConversionShowsItsTractsAndInformativeSites) {
+  TempDir dir;
+  ScriptedPlatform p;
+  p.ProgramDir = dir.Path().string();
+  MainWindow window(p);
+  // q1 carries population P's C at sites 2 and 3: a tract of two sites.
+  const std::string file = dir.Write(
+      "tracts.fas",
+      ">p1\nCCCA\n>p2\nCCCA\n>p3\nCCCA\n>q1\nACCA\n>q2\nAAAA\n>q3\nAAAA\n>q4\nAAAA\n"
+      ">q5\nAAAA\n>q6\nAAAA\n");
+  ASSERT_TRUE(window.Bench().OpenPath(file));
+  ASSERT_FALSE(AddSequenceSet(window.Bench().Data(), "P", {1, 2, 3}).has_value());
+  ASSERT_FALSE(AddSequenceSet(window.Bench().Data(), "Q", {4, 5, 6, 7, 8, 9}).has_value());
+  window.Refresh();
+  QAction* action = window.ActionFor("MenuGeneConversionNew_Click");
+  ASSERT_NE(action, nullptr);
+  int dialogs = 0;
+  QTimer::singleShot(0, [&] {
+    auto* dialog = qobject_cast<OptionDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    ++dialogs;
+    EXPECT_EQ(dialog->windowTitle(), "Gene Conversion");
+    dialog->accept();
+  });
+  action->trigger();
+  EXPECT_EQ(dialogs, 1);
+  const QString report = window.Text()->Report();
+  EXPECT_TRUE(report.contains(" Number of Gene Conversion tracts identified:  1\n"))
+      << report.toStdString();
+  EXPECT_TRUE(report.contains("Tract located between sites: 2-3\n")) << report.toStdString();
+  ASSERT_NE(window.Grid(), nullptr);
+  QTableWidget* table = window.Grid()->Table();
+  ASSERT_GE(table->columnCount(), 2);
+  EXPECT_EQ(table->horizontalHeaderItem(1)->text(), "Psi");
+  // Site 1 is monomorphic and different with six lines in Q: Psi 1/2.
+  EXPECT_EQ(table->item(0, 0)->text().trimmed(), "1");
+  EXPECT_EQ(table->item(0, 1)->text().trimmed(), "0.50000");
+}
+
+}  // namespace
+}  // namespace ovelt
