@@ -15,20 +15,13 @@ DivergenceWindows ComputeDivergenceWindows(const Selection& sel,
                                            const std::vector<double>& site_dxy, int32_t from,
                                            int32_t to, const SlidingWindowSpec& geometry,
                                            const Progress& progress) {
-  DivergenceWindows result;
-  result.Geometry = geometry;
-  result.Capacity = WindowCapacity(from, to, geometry.StepSize);
-  const std::vector<WindowBounds> windows =
-      SlideWindows(JointGapClasses(sel), from, to, geometry);
-  result.Rows.reserve(windows.size());
-  int32_t row = 0;
-  for (const WindowBounds& w : windows) {
-    const DivergenceSums sums = SumDivergence(sel, site_dxy, w.Start, w.End);
-    result.Rows.push_back({w, sums.Pi1, sums.Pi2, sums.Dxy, sums.Da});
-    ++row;
-    progress.Raise(static_cast<int>(static_cast<double>(row) / result.Capacity * 100.0));
-  }
-  return result;
+  return RunWindows<DivergenceWindow>(
+      JointGapClasses(sel), from, to, geometry,
+      [&](const WindowBounds& w) {
+        const DivergenceSums sums = SumDivergence(sel, site_dxy, w.Start, w.End);
+        return DivergenceWindow{w, sums.Pi1, sums.Pi2, sums.Dxy, sums.Da};
+      },
+      [&progress](int percent) { progress.Raise(percent); });
 }
 
 }  // namespace ovelt

@@ -82,19 +82,12 @@ ConversionWindows ComputeConversionWindows(const Selection& sel,
                                            const std::vector<double>& psi_by_site, int32_t from,
                                            int32_t to, const SlidingWindowSpec& geometry,
                                            const Progress& progress) {
-  ConversionWindows result;
-  result.Geometry = geometry;
-  result.Capacity = WindowCapacity(from, to, geometry.StepSize);
-  const std::vector<WindowBounds> windows =
-      SlideWindows(JointGapClasses(sel), from, to, geometry);
-  result.Rows.reserve(windows.size());
-  int32_t row = 0;
-  for (const WindowBounds& w : windows) {
-    result.Rows.push_back({w, MeanPsi(sel, psi_by_site, w.Start, w.End).first});
-    ++row;
-    progress.Raise(60 + static_cast<int>(40.0 * row / result.Capacity));
-  }
-  return result;
+  return RunWindows<ConversionWindow>(
+      JointGapClasses(sel), from, to, geometry,
+      [&](const WindowBounds& w) {
+        return ConversionWindow{w, MeanPsi(sel, psi_by_site, w.Start, w.End).first};
+      },
+      [&progress](int percent) { progress.Raise(60 + percent * 4 / 10); });
 }
 
 }  // namespace ovelt

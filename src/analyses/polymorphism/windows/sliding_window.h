@@ -112,6 +112,26 @@ struct WindowRun {
 [[nodiscard]] std::vector<WindowBounds> SlideWindows(const SiteClasses& classes, int32_t from,
                                                      int32_t to, const SlidingWindowSpec& geometry);
 
+// The run of every window of from..to over `classes` (see SlideWindows): each row made by
+// `make_row(window)`, and `raise(percent)` after each, the percent being row / R.
+template <class Row, class MakeRow, class Raise>
+[[nodiscard]] WindowRun<Row> RunWindows(const SiteClasses& classes, int32_t from, int32_t to,
+                                        const SlidingWindowSpec& geometry, MakeRow make_row,
+                                        Raise raise) {
+  WindowRun<Row> run;
+  run.Geometry = geometry;
+  run.Capacity = WindowCapacity(from, to, geometry.StepSize);
+  const std::vector<WindowBounds> windows = SlideWindows(classes, from, to, geometry);
+  run.Rows.reserve(windows.size());
+  int32_t row = 0;
+  for (const WindowBounds& w : windows) {
+    run.Rows.push_back(make_row(w));
+    ++row;
+    raise(static_cast<int>(static_cast<double>(row) / run.Capacity * 100.0));
+  }
+  return run;
+}
+
 // The report block that closes an analysis run along windows (CR LF lines): " Sliding Window
 // Option", the sentence on gaps, and the window length with the step size on one line.
 [[nodiscard]] std::string SlidingBlock(const SlidingWindowSpec& geometry);

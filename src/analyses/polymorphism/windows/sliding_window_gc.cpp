@@ -7,11 +7,7 @@ namespace ovelt {
 
 GcWindows ComputeGcWindows(const Selection& sel, int32_t from, int32_t to,
                            const SlidingWindowSpec& geometry, const PolyGauge& gauge) {
-  GcWindows result;
-  result.Geometry = geometry;
-  result.Capacity = WindowCapacity(from, to, geometry.StepSize);
-  int32_t row = 0;
-  for (const WindowBounds& w : SlideWindows(sel.SelSiteClass1, from, to, geometry)) {
+  const auto make_row = [&sel](const WindowBounds& w) {
     GcWindow out;
     out.Window = w;
     int64_t a = 0, t = 0;
@@ -41,11 +37,10 @@ GcWindows ComputeGcWindows(const Selection& sel, int32_t from, int32_t to,
       out.GC = static_cast<double>(out.G + out.C) / static_cast<double>(bases);
       out.AT = static_cast<double>(a + t) / static_cast<double>(bases);
     }
-    result.Rows.push_back(out);
-    ++row;
-    RaiseTo(gauge, static_cast<int>(static_cast<double>(row) / result.Capacity * 100.0));
-  }
-  return result;
+    return out;
+  };
+  return RunWindows<GcWindow>(sel.SelSiteClass1, from, to, geometry, make_row,
+                              [&gauge](int percent) { RaiseTo(gauge, percent); });
 }
 
 std::vector<std::string> GcGridTitles() {

@@ -7,14 +7,8 @@ namespace ovelt {
 
 PiThetaWindows ComputePiThetaWindows(const Selection& sel, int32_t from, int32_t to,
                                      const SlidingWindowSpec& geometry, const PolyGauge& gauge) {
-  PiThetaWindows result;
-  result.Geometry = geometry;
-  result.Capacity = WindowCapacity(from, to, geometry.StepSize);
   const double a1 = HarmonicA1Double(sel.SelOutCount);
-  const std::vector<WindowBounds> windows = SlideWindows(sel.SelSiteClass1, from, to, geometry);
-  result.Rows.reserve(windows.size());
-  int32_t row = 0;
-  for (const WindowBounds& w : windows) {
+  const auto make_row = [&sel, a1](const WindowBounds& w) {
     PiThetaWindow out;
     out.Window = w;
     double k = 0.0;
@@ -28,11 +22,10 @@ PiThetaWindows ComputePiThetaWindows(const Selection& sel, int32_t from, int32_t
       out.Pi = k / w.NetSites;
       out.Theta = out.SegSites / (w.NetSites * a1);
     }
-    result.Rows.push_back(out);
-    ++row;
-    RaiseTo(gauge, static_cast<int>(static_cast<double>(row) / result.Capacity * 100.0));
-  }
-  return result;
+    return out;
+  };
+  return RunWindows<PiThetaWindow>(sel.SelSiteClass1, from, to, geometry, make_row,
+                                   [&gauge](int percent) { RaiseTo(gauge, percent); });
 }
 
 std::vector<std::string> PiThetaGridTitles() {
