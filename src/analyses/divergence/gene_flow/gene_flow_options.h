@@ -4,6 +4,7 @@
 // replicates and seed. The populations are the active sequence sets.
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 
 #include "core/command_options.h"
@@ -32,10 +33,10 @@ struct GeneFlowOptions {
                          "Test the differentiation statistics by permuting the sequences"});
     v.Integer(Replicates,
               {"replicates", "Number of replicates:",
-               "Replicates of the permutation test (with --permutation)"},
-              0, kMaxFlowReplicates + 1);
+               "Replicates of the permutation test (with --permutation), 1 to 50000"},
+              std::numeric_limits<int32_t>::min(), std::numeric_limits<int32_t>::max());
     v.Integer(Seed, {"seed", "Seed:", "Seed of the permutation test (0 runs as 111295)"}, 0,
-              2147483647);
+              std::numeric_limits<int32_t>::max());
   }
 };
 
