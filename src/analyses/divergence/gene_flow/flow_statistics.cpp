@@ -105,10 +105,13 @@ HaplotypeCounts Pooled(const std::vector<HaplotypeCounts>& groups) {
 FlowUniverse MakeUniverse(const FlowTables& tables, const std::vector<HaplotypeCounts>& groups,
                           int32_t sites) {
   const HaplotypeCounts all = Pooled(groups);
-  return {&tables, RankDistances(tables, all), FindNearestNeighbours(tables, all), sites};
+  std::vector<double> log_dist(static_cast<size_t>(tables.MaxDist) + 1);
+  for (size_t d = 0; d < log_dist.size(); ++d) log_dist[d] = std::log(1.0 + static_cast<double>(d));
+  return {&tables, RankDistances(tables, all), std::move(log_dist),
+          FindNearestNeighbours(tables, all), sites};
 }
 
-GroupMeans MeansOf(const FlowUniverse& u, const HaplotypeCounts& group) {
+GroupMeans MeansOf(const FlowUniverse& u, const HaplotypeCounts& group, bool jukes_cantor) {
   const FlowTables& t = *u.Tables;
   GroupMeans m;
   m.N = SizeOf(group);
@@ -117,10 +120,11 @@ GroupMeans MeansOf(const FlowUniverse& u, const HaplotypeCounts& group) {
   const auto rank = [&u](int32_t d) { return u.Ranks.Rank[static_cast<size_t>(d)]; };
   const auto log_rank = [&u](int32_t d) { return u.Ranks.LogRank[static_cast<size_t>(d)]; };
   m.K = Mean(WithinSum(t, group, [](int32_t d) { return static_cast<double>(d); }));
-  m.KLog = Mean(WithinSum(t, group, [](int32_t d) { return std::log(1.0 + d); }));
+  m.KLog = Mean(WithinSum(t, group, [&u](int32_t d) { return u.LogDist[static_cast<size_t>(d)]; }));
   m.Z = Mean(WithinSum(t, group, rank));
   m.ZLog = Mean(WithinSum(t, group, log_rank));
   m.Pi = u.Sites > 0 ? m.K / u.Sites : 0.0;
+  if (!jukes_cantor) return m;
   double jc_sum = 0.0, jc_pairs = 0.0;
   for (size_t i = 0; i < group.size(); ++i) {
     const auto [a, ca] = group[i];
@@ -143,7 +147,7 @@ TestedValues TestedStatistics(const FlowUniverse& u, const std::vector<Haplotype
   int32_t total = 0;
   for (const HaplotypeCounts& g : groups) total += SizeOf(g);
   for (const HaplotypeCounts& g : groups) {
-    const GroupMeans m = MeansOf(u, g);
+    const GroupMeans m = MeansOf(u, g, false);
     const double w = static_cast<double>(m.N) / total;
     v[0] += w * m.H;
     v[1] += w * m.K;

@@ -24,6 +24,7 @@ namespace ovelt {
 struct FlowUniverse {
   const FlowTables* Tables = nullptr;
   DistanceRanks Ranks;
+  std::vector<double> LogDist;  // ln(1 + d), 0 .. MaxDist
   NearestNeighbours Neighbours;
   int32_t Sites = 0;  // L
 };
@@ -44,7 +45,9 @@ struct GroupMeans {
   double Pi = 0.0;               // K / L
   std::optional<double> PiJC;    // mean Jukes and Cantor distance of the pairs that have one
 };
-[[nodiscard]] GroupMeans MeansOf(const FlowUniverse& u, const HaplotypeCounts& group);
+// Without `jukes_cantor` PiJC is left out (a replicate of the permutation test needs none).
+[[nodiscard]] GroupMeans MeansOf(const FlowUniverse& u, const HaplotypeCounts& group,
+                                 bool jukes_cantor = true);
 
 // Hs, Ks, Ks*, Zs, Zs*, Snn: the statistics of the permutation test, in that order.
 using TestedValues = std::array<double, 6>;
