@@ -53,12 +53,13 @@ CommandReport Report(const GeneFlowResult& result, const Selection&, const GeneF
   report.GridArray = "pairs";
   for (const GeneFlowPair& pair : result.Pairs) report.Grid1.Rows.push_back(GeneFlowPairRow(pair));
   report.GeneFlow = GeneFlowPairTable(result);
+  report.ShowKinds = {kResultTextAndGrid};
   if (result.Replicates > 0) {
     report.Grid2.ColumnTitles = GeneFlowTestTitles();
     for (const GeneFlowPair& pair : result.Pairs)
       report.Grid2.Rows.push_back(GeneFlowTestRow(pair));
+    report.ShowKinds.push_back(kResultSecondGrid);
   }
-  report.ShowKinds = {kResultTextAndGrid};
   return report;
 }
 
