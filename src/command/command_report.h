@@ -24,6 +24,8 @@ struct CommandReport {
   // Grid1 shows: the binding makes Grid1.Data from it, for the --grid file.
   std::string GridArray;
   OutputGrid Grid2;
+  // The table of every pair of populations of a gene-flow run, for the saved output.
+  std::optional<GeneFlowTable> GeneFlow;
   // The head of the grid in saved output when the result words it its own way.
   std::optional<std::string> GridTextHead;
   std::optional<GraphData> Graph;

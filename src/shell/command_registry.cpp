@@ -5,6 +5,7 @@
 
 #include "analyses/divergence/dna_divergence/dna_divergence_command.h"
 #include "analyses/divergence/gene_conversion/gene_conversion_command.h"
+#include "analyses/divergence/gene_flow/gene_flow_command.h"
 #include "analyses/divergence/synonymous/synonymous_command.h"
 #include "analyses/polymorphism/diversity/dna_polymorphism_command.h"
 #include "analyses/polymorphism/neutrality/fu_li_command.h"
@@ -500,20 +501,27 @@ std::vector<CommandEntry> BuildRegistry() {
       .Labels = {.Title = "EMBL/GenBank Submission File",
                  .SecondGridCaption = "Output: No. of Mutations and Sites (Intraspecific Data)"},
   });
-  add({
-      .Id = CommandId::kGeneFlow,
-      .Title = "Gene Flow and Genetic Differentiation",
-      .Handler = "MenuGeneFlowNew_Click",
-      .MenuText = "&Gene Flow and Genetic Differentiation...",
-      .Checks = {Check::kTwoSets, Check::kActiveSets},
-      .ChecksText = "two sets, active sets",
-      .Dialog = "Form9c",
-      .Menu = "Analysis",
-      .CliName = "gene-flow",
-      .Labels = {.Title = "Gene Flow and Genetic Differentiation",
-                 .TextCaption = "Output: Gene Flow",
-                 .SecondGridCaption = "Output: No. of Mutations and Sites (Intraspecific Data)"},
-  });
+  // GeneFlow
+  add(
+      {
+          .Id = CommandId::kGeneFlow,
+          .Title = "Gene Flow and Genetic Differentiation",
+          .Handler = "MenuGeneFlowNew_Click",
+          .MenuText = "&Gene Flow and Genetic Differentiation...",
+          .Checks = {Check::kTwoSets, Check::kActiveSets},
+          .ChecksText = "two sets, active sets",
+          .Dialog = "Form9c",
+          .Menu = "Analysis",
+          .CliName = "gene-flow",
+          .Description = "Differentiation among the active sequence sets and between every two: "
+                         "Hst, Kst, Kst*, Z, Z*, Snn with their permutation test, Gst, DeltaSt, "
+                         "GammaSt, Nst, Fst, Dxy, Da and Nm",
+          .Labels = {.Title = "Gene Flow and Genetic Differentiation",
+                     .TextCaption = "Output: Gene Flow",
+                     .SecondGridCaption =
+                         "Output: No. of Mutations and Sites (Intraspecific Data)"},
+      },
+      GeneFlowBinding());
   add({
       .Id = CommandId::kPreferredCodons,
       .Title = "Preferred and Unpreferred Synonymous Substitutions",

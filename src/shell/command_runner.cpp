@@ -70,6 +70,7 @@ void Show(OutputChannel& channel, Platform& ui, const CommandFacts& facts, Comma
   channel.AppendText(report.Head + report.Body);
   channel.Grid1 = std::move(report.Grid1);
   channel.Grid2 = std::move(report.Grid2);
+  if (report.GeneFlow) channel.GeneFlow = std::move(*report.GeneFlow);
   if (report.GridTextHead) channel.SetGridTextHead(*report.GridTextHead);
   for (const CommandReport::Notice& notice : report.Notices)
     ui.MessageBox(notice.Text, notice.Icon);

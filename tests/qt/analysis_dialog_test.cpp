@@ -216,3 +216,50 @@ TEST(AnalysisDialogs, GeneConversionShowsItsTractsAndInformativeSites) {
 
 }  // namespace
 }  // namespace ovelt
+
+namespace ovelt {
+namespace {
+
+TEST(AnalysisDialogs, GeneFlowRunsWithItsTestAndShowsBothGrids) {
+  TempDir dir;
+  ScriptedPlatform p;
+  p.ProgramDir = dir.Path().string();
+  MainWindow window(p);
+  const std::string file =
+      dir.Write("two.fas", ">s1\nAAAA\n>s2\nAAAT\n>s3\nCAAA\n>s4\nCAAT\n>s5\nCAAT\n");
+  ASSERT_TRUE(window.Bench().OpenPath(file));
+  ASSERT_FALSE(AddSequenceSet(window.Bench().Data(), "A", {1, 2}).has_value());
+  ASSERT_FALSE(AddSequenceSet(window.Bench().Data(), "B", {3, 4, 5}).has_value());
+  window.Refresh();
+  QAction* action = window.ActionFor("MenuGeneFlowNew_Click");
+  ASSERT_NE(action, nullptr);
+  int dialogs = 0;
+  QTimer::singleShot(0, [&] {
+    auto* dialog = qobject_cast<OptionDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    ++dialogs;
+    EXPECT_EQ(dialog->windowTitle(), "Gene Flow and Genetic Differentiation");
+    for (auto* box : dialog->findChildren<QCheckBox*>())
+      if (box->text() == "Permutation test") box->setChecked(true);
+    dialog->accept();
+  });
+  action->trigger();
+  EXPECT_EQ(dialogs, 1);
+  const QString report = window.Text()->Report();
+  EXPECT_TRUE(report.contains("  Hudson 2000, Snn: 0.70000\n")) << report.toStdString();
+  EXPECT_TRUE(report.contains("permutation test with 1000 replicates)")) << report.toStdString();
+  ASSERT_NE(window.Grid(), nullptr);
+  QTableWidget* pairs = window.Grid()->Table();
+  EXPECT_EQ(pairs->horizontalHeaderItem(9)->text(), "Fst");
+  EXPECT_EQ(pairs->item(0, 9)->text().trimmed(), "0.44444");
+  ASSERT_NE(window.SecondGrid(), nullptr);
+  QTableWidget* tests = window.SecondGrid()->Table();
+  ASSERT_GE(tests->columnCount(), 8);
+  ASSERT_NE(tests->horizontalHeaderItem(7), nullptr);
+  EXPECT_EQ(tests->horizontalHeaderItem(7)->text(), "P(Snn)");
+  ASSERT_NE(tests->item(0, 0), nullptr);
+  EXPECT_EQ(tests->item(0, 0)->text().trimmed(), "A");
+}
+
+}  // namespace
+}  // namespace ovelt
