@@ -82,14 +82,16 @@ class AnalysisBinding final : public CommandBinding {
     if (selection.SelOutCount < context.MinimumSequences)
       Refuse(TooFewSequencesMessage(context.MinimumSequences),
              SetTooSmallReason(data, selection.SelSet1, selection.SelOutCount));
-    const Result result = parts_.Compute(selection, options, context.Progress);
+    auto result =
+        std::make_shared<const Result>(parts_.Compute(selection, options, context.Progress));
     CommandProduct product;
-    product.Report = parts_.Report(result, selection, options);
+    product.Report = parts_.Report(*result, selection, options);
     if (!product.Report.GridArray.empty())
-      product.Report.Grid1.Data = ResultArrayTable(result, product.Report.GridArray);
+      product.Report.Grid1.Data = ResultArrayTable(*result, product.Report.GridArray);
     product.Region = selection.Region;
     product.Used = UsedBy(selection);
-    if (context.WantJson) product.Json = ResultJson(parts_.JsonName, result);
+    if (context.WantJson) product.Json = ResultJson(parts_.JsonName, *result);
+    product.Result = std::move(result);
     return product;
   }
 

@@ -87,5 +87,34 @@ TEST(GeneFlowCli, RefusalsOfTheDialogAndOfThePopulations) {
       << one_set.err;
 }
 
+TEST(GeneFlowCli, DistanceMatricesOfTheTableOfPairs) {
+  TempDir dir;
+  const std::string file = dir.Write("two.fas", kTwo);
+  const std::string phylip = dir.File("fst.phy");
+  const std::string mega = dir.File("kxy.meg");
+  const auto r = RunOvelt(
+      Args(file, {"--distance-matrix", "Fst=" + phylip, "--distance-matrix", "Kxy=" + mega}),
+      dir.Path().string());
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_EQ(ReadBytes(phylip), "    2\r\nA         \r\nB           0.44444\r\n");
+  EXPECT_EQ(ReadBytes(mega),
+            "#mega\r\n!Title: Kxy values exported by Ovelt Workbench (Ovelt); kxy.meg;\r\n"
+            "#A\r\n#B\r\n\r\n1.50000\r\n");
+  // A request that cannot be written is refused before the run.
+  const auto bad = RunOvelt(Args(file, {"--distance-matrix", "Fst=" + dir.File("fst.txt")}),
+                            dir.Path().string());
+  EXPECT_EQ(bad.status, 1);
+  EXPECT_TRUE(bad.out.empty());
+  EXPECT_NE(bad.err.find("A distance matrix is written as PHYLIP (.phy) or MEGA (.meg)"),
+            std::string::npos)
+      << bad.err;
+  const auto unknown =
+      RunOvelt(Args(file, {"--distance-matrix", "Ht=" + phylip}), dir.Path().string());
+  EXPECT_EQ(unknown.status, 1);
+  EXPECT_NE(unknown.err.find("the statistic one of Hs, Ks, Kxy, Gst, DeltaSt, GammaSt, Nst, Fst, "
+                             "Dxy, Da"),
+            std::string::npos);
+}
+
 }  // namespace
 }  // namespace ovelt::testing

@@ -213,3 +213,38 @@ TEST(GeneFlowSample, GapModes) {
 
 }  // namespace
 }  // namespace ovelt
+
+#include "analyses/divergence/gene_flow/distance_matrix.h"
+
+namespace ovelt {
+namespace {
+
+TEST(GeneFlowMatrix, PhylipAndMegaLowerTriangles) {
+  // A, B as above and C a copy of A: Fst(A, B) = Fst(B, C) = 4/9. A and C: within 1 each,
+  // between (0 + 1 + 1 + 0)/4 = 1/2, so B = 1/2 - 1 and Fst = B/(B + W) = -1 (Hudson's
+  // 1 - Hw/Hb = 1 - 2); Kxy(A, C) = 1/2.
+  ActiveData ad =
+      test::MakeAlignment({"AAAA", "AAAT", "CAAA", "CAAT", "CAAT", "AAAA", "AAAT"});
+  test::AddSet(ad, "A", {1, 2});
+  test::AddSet(ad, "B", {3, 4, 5});
+  test::AddSet(ad, "Pop C", {6, 7});
+  const GeneFlowResult r =
+      ComputeGeneFlow(SampleOf(ad), ad.FilePath, 1, 4, 0, 1, 4.0);
+  EXPECT_EQ(DistanceMatrixText(r, "Fst", MatrixFormat::kPhylip, "x.phy"),
+            "    3\r\n"
+            "A         \r\n"
+            "B           0.44444\r\n"
+            "Pop_C       -1.00000  0.44444\r\n");
+  EXPECT_EQ(DistanceMatrixText(r, "Kxy", MatrixFormat::kMega, "x.meg"),
+            "#mega\r\n"
+            "!Title: Kxy values exported by Ovelt Workbench (Ovelt); x.meg;\r\n"
+            "#A\r\n#B\r\n#Pop_C\r\n\r\n"
+            "1.50000\r\n"
+            "0.50000 1.50000\r\n");
+  EXPECT_EQ(MatrixFormatOf("a.PHY"), MatrixFormat::kPhylip);
+  EXPECT_EQ(MatrixFormatOf("a.mega"), MatrixFormat::kMega);
+  EXPECT_FALSE(MatrixFormatOf("a.txt").has_value());
+}
+
+}  // namespace
+}  // namespace ovelt

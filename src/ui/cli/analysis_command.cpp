@@ -12,6 +12,7 @@
 #include "ui/cli/file_job.h"
 #include "ui/cli/option_flags.h"
 #include "ui/cli/output_options.h"
+#include "ui/cli/result_exports.h"
 
 namespace ovelt {
 
@@ -22,6 +23,7 @@ struct CommandState {
   std::unique_ptr<CommandOptions> options;
   PendingOptionFlags pending;
   std::string json;
+  ExportRequests exports;
 };
 
 // The run and its outputs, once the workbench holds the data (or needs none).
@@ -30,6 +32,7 @@ int RunAndFinish(CommandState& state, const CommandEntry& entry, Workbench& wb,
   // The gate of the menus and the checks before the dialog concern the open file; a command
   // that needs none runs without them.
   const bool needs_data = entry.Binding->NeedsData();
+  if (!CheckResultExports(state.exports, platform)) return kCliRefused;
   for (const auto& set : state.pending.sets) platform.set_flags.push_back(set.key);
   if (needs_data && !wb.BeginCommand(entry.Facts.Number())) return kCliRefused;
   // What the dialog would say as the options were picked, said before the run.
@@ -44,6 +47,7 @@ int RunAndFinish(CommandState& state, const CommandEntry& entry, Workbench& wb,
   if (!outcome.Stands) return kCliRefused;
   if (!state.json.empty() && !WriteJsonFile(state.json, outcome.Json, platform, s.out))
     return kCliRefused;
+  if (!WriteResultExports(state.exports, outcome, platform)) return kCliRefused;
   const bool text_out = state.json != "-";
   return FinishOutput(state.job.output, wb, "", s.out, text_out) ? kCliDone : kCliRefused;
 }
@@ -78,6 +82,7 @@ void AddAnalysisCommand(CliRegistry& registry, const CommandEntry& entry) {
   app.add_option("--json", state.json,
                  "Write the result as JSON to this file (- for standard output)")
       ->group("Output");
+  AddResultExports(app, entry, state.exports);
 }
 
 }  // namespace
