@@ -71,7 +71,8 @@ void BM_Rm(benchmark::State& state) {
     const ovelt::RmEstimate r = ovelt::EstimateRm(w.Sel, 1, sites);
     pairs = static_cast<int64_t>(r.FourGametePairs.size());
     rm = r.Rm;
-    benchmark::DoNotOptimize(rm);
+    benchmark::DoNotOptimize(&rm);
+    benchmark::ClobberMemory();
   }
   state.counters["four_gamete_pairs"] = static_cast<double>(pairs);
   state.counters["rm"] = rm;
@@ -86,7 +87,9 @@ void BM_HudsonC(benchmark::State& state) {
   for (auto _ : state) {
     const ovelt::HudsonEstimate e = ovelt::EstimateHudsonC(w.Sel, 1, 1000);
     c = e.C;
-    benchmark::DoNotOptimize(c);
+    // Through a pointer: DoNotOptimize on a double itself can garble it with some compilers.
+    benchmark::DoNotOptimize(&c);
+    benchmark::ClobberMemory();
   }
   state.SetLabel(c > 10000.0 ? "C above 10000" : "C = " + std::to_string(c));
 }
