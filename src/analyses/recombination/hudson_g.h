@@ -1,8 +1,7 @@
 #pragma once
-// Hudson's (1987) g(C, n): the expected variance of the number of differences between two
-// sequences of a sample of n, over theta squared, under recombination parameter C = 4Nc
-// (Hudson 1987, eq. 3 with the terms of the sample variance of Kij). The moment estimate of C
-// is the C at which g falls to the observed ratio.
+// Hudson's (1987) g(C, n): the expected sample variance of the pairwise differences Kij, freed
+// of its mutational part and scaled by theta squared, under the recombination parameter
+// C = 4Nc. It falls as C grows; the moment estimate of C is where it meets the observed ratio.
 
 #include <cstdint>
 
