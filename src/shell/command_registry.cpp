@@ -13,6 +13,7 @@
 #include "analyses/polymorphism/neutrality/tajima_command.h"
 #include "analyses/polymorphism/overview/overview_command.h"
 #include "analyses/polymorphism/size_changes/size_change_command.h"
+#include "analyses/recombination/recombination_command.h"
 #include "coalescent/coalescent_command.h"
 #include "tools/independence_command.h"
 
@@ -158,11 +159,14 @@ std::vector<CommandEntry> BuildRegistry() {
       .Dialog = "Form9",
       .Menu = "Analysis",
       .CliName = "recombination",
+      .Description = "Hudson's estimate of R = 4Nc from the variance of the pairwise "
+                     "differences, and the minimum number of recombination events Rm",
       .MinimumSequences = 2,
       .Labels = {.Title = "Recombination",
                  .GridCaption = "Output. Table of: Recombination",
                  .SecondGridCaption = "Output: No. of Mutations and Sites (Intraspecific Data)"},
-  });
+  },
+      RecombinationBinding());
   // Synonymous
   add(
       {

@@ -112,6 +112,39 @@ TEST(AnalysisDialogs, SynonymousAsksAboutTheCodingRegionThenShowsItsOptions) {
   EXPECT_TRUE(report.contains(" Number non-coding positions analyzed: 6")) << report.toStdString();
 }
 
+TEST(AnalysisDialogs, RecombinationRunsFromItsMenuEntryThroughTheGeneratedDialog) {
+  TempDir dir;
+  ScriptedPlatform p;
+  p.ProgramDir = dir.Path().string();
+  MainWindow window(p);
+  // Sequence c differs from the others at four sites: Sk^2 = 3.75, Theta = 2 and
+  // G = 0.703125, above g(0.001, 4), so C is the first grid point.
+  const std::string file = dir.Write("four.fas", ">a\nAAAAA\n>b\nAAAAA\n>c\nGGGAG\n>d\nAAAAA\n");
+  ASSERT_TRUE(window.Bench().OpenPath(file));
+  window.Refresh();
+  QAction* action = window.ActionFor("MenuRecombination_Click");
+  ASSERT_NE(action, nullptr);
+  EXPECT_TRUE(action->isVisible());
+  EXPECT_EQ(action->text(), "&Recombination...");
+  int dialogs = 0;
+  std::function<void()> answer = [&] {
+    auto* dialog = qobject_cast<OptionDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    ++dialogs;
+    EXPECT_EQ(dialog->windowTitle(), "Recombination");
+    EXPECT_EQ(dialog->findChildren<QLineEdit*>().size(), 2);  // from, to
+    dialog->accept();
+  };
+  QTimer::singleShot(0, answer);
+  action->trigger();
+  EXPECT_EQ(dialogs, 1);
+  const QString report = window.Text()->Report();
+  EXPECT_TRUE(report.contains("    Variance of the sample distribution of Kij, Sk^2: 3.750\n"))
+      << report.toStdString();
+  EXPECT_TRUE(report.contains("    Estimate of R, per gene: 0.001\n")) << report.toStdString();
+  EXPECT_TRUE(report.contains("    Minimum number of recombination events, Rm: 0\n"));
+}
+
 }  // namespace
 }  // namespace ovelt
 
