@@ -1,6 +1,7 @@
 #include "analyses/linkage/linkage_table.h"
 
 #include "analyses/linkage/pair_tests.h"
+#include "analyses/linkage/table_cells.h"
 #include "core/line_end.h"
 #include "core/report_head.h"
 #include "output/format_mask.h"
@@ -10,16 +11,22 @@ namespace ovelt {
 
 namespace {
 
-constexpr const char* kCellMask = "0.000";
 constexpr const char* kFieldGap = "  ";
 
 std::string SignedCell(double value) {
-  const std::string text = Format(value, kCellMask);
+  const std::string text = ThreeDecimals(value);
   return text.front() == '-' ? text : " " + text;
 }
 
-std::string TestCell(double value, int stars, bool bonferroni) {
-  return Format(value, kCellMask) + StarMark(stars) + (bonferroni ? "B" : " ");
+// Fisher's P is a single-precision value and prints as one.
+std::string FisherCell(const LinkagePairRow& row) {
+  return ThreeDecimals(row.FisherP) + StarMark(row.FisherStars) +
+         (row.FisherBonferroni ? "B" : " ");
+}
+
+std::string ChiSquareCell(const LinkagePairRow& row) {
+  return ThreeDecimals(row.ChiSquare) + StarMark(row.ChiSquareStars) +
+         (row.ChiSquareBonferroni ? "B" : " ");
 }
 
 }  // namespace
@@ -47,21 +54,31 @@ std::vector<std::string> LinkageGridTitles(int tests) {
 std::vector<std::string> LinkageGridCells(const LinkagePairRow& row) {
   std::vector<std::string> cells{StrNum(row.Site1), StrNum(row.Site2), StrNum(row.Dist),
                                  SignedCell(row.D), SignedCell(row.DPrime), SignedCell(row.R)};
-  if (row.HasFisher)
-    cells.push_back(TestCell(row.FisherP, row.FisherStars, row.FisherBonferroni));
-  if (row.HasChiSquare)
-    cells.push_back(TestCell(row.ChiSquare, row.ChiSquareStars, row.ChiSquareBonferroni));
+  if (row.HasFisher) cells.push_back(FisherCell(row));
+  if (row.HasChiSquare) cells.push_back(ChiSquareCell(row));
   return cells;
 }
 
 std::string LinkageFileLine(const LinkagePairRow& row) {
-  std::string line = Format(row.Site1, "@@@@@") + kFieldGap + Format(row.Site2, "@@@@@") +
-                     kFieldGap + Format(row.Dist, "@@@@@") + kFieldGap + SignedCell(row.D) +
-                     kFieldGap + SignedCell(row.DPrime) + kFieldGap + SignedCell(row.R);
-  if (row.HasFisher)
-    line += kFieldGap + TestCell(row.FisherP, row.FisherStars, row.FisherBonferroni);
-  if (row.HasChiSquare)
-    line += kFieldGap + TestCell(row.ChiSquare, row.ChiSquareStars, row.ChiSquareBonferroni);
+  std::string line;
+  line.reserve(80);
+  line += RightAlignedFive(row.Site1);
+  line += kFieldGap;
+  line += RightAlignedFive(row.Site2);
+  line += kFieldGap;
+  line += RightAlignedFive(row.Dist);
+  for (const double value : {row.D, row.DPrime, row.R}) {
+    line += kFieldGap;
+    line += SignedCell(value);
+  }
+  if (row.HasFisher) {
+    line += kFieldGap;
+    line += FisherCell(row);
+  }
+  if (row.HasChiSquare) {
+    line += kFieldGap;
+    line += ChiSquareCell(row);
+  }
   return line;
 }
 
