@@ -126,7 +126,10 @@ TEST_P(PlainTwin, SameCountsMeasuresAndTests) {
       EXPECT_NEAR(f.DPrime, p.d_prime, 1e-12);
       EXPECT_NEAR(f.R, p.r, 1e-12);
       double one = 0;
-      EXPECT_EQ(f.FisherP, FisherExact(p.h11, p.h12, p.h21, p.h22, one, lf));
+      const float reference = FisherExact(p.h11, p.h12, p.h21, p.h22, one, lf);
+      // The scan's short cuts may move the float by its last bit, no more.
+      EXPECT_TRUE(f.FisherP == reference || std::nextafter(f.FisherP, reference) == reference)
+          << f.FisherP << " vs " << reference;
       const double cross = 1.0 * p.h11 * p.h22 - 1.0 * p.h12 * p.h21;
       const double chi = cross * cross * n /
                          (1.0 * (p.h21 + p.h22) * (p.h11 + p.h12) * (p.h11 + p.h21) * (p.h12 + p.h22));

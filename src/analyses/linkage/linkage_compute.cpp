@@ -6,11 +6,10 @@
 #include "analyses/linkage/allele_pairs.h"
 #include "analyses/linkage/linkage_pair.h"
 #include "analyses/linkage/pair_distance.h"
+#include "analyses/linkage/pair_fisher.h"
 #include "analyses/linkage/pair_tests.h"
 #include "command/command_failure.h"
 #include "core/net_sites.h"
-#include "stats/fisher_exact.h"
-#include "stats/log_factorial.h"
 #include "stats/stats_error.h"
 
 namespace ovelt {
@@ -44,19 +43,21 @@ struct RegressionPoints {
 class PairTester {
  public:
   PairTester(const LinkageOptions& options, int64_t pairs, int32_t n, LinkageResult& result)
-      : fisher_(options.Fisher), chi_(options.ChiSquare), result_(result) {
+      : fisher_(options.Fisher),
+        chi_(options.ChiSquare),
+        result_(result),
+        // The table of ln(i!) is built once for n, for all the pairs.
+        exact_(options.Fisher ? n : 1) {
     if (!fisher_ && !chi_) return;
     alpha_ = BonferroniAlpha(pairs);
     bracket_ = BracketFor(alpha_);
     result.BonferroniAlpha = alpha_;
-    if (fisher_) log_factorial_.BuildLogFactorial(n);
   }
 
   void Test(const HaplotypePairCounts& h, int32_t n, LinkagePairRow& row) {
     if (fisher_) {
-      double one_tail = 0.0;
       row.HasFisher = true;
-      row.FisherP = FisherExact(h.h11, h.h12, h.h21, h.h22, one_tail, log_factorial_);
+      row.FisherP = exact_.TwoTailed(h.h11, h.h12, h.h21, h.h22);
       row.FisherStars = static_cast<int8_t>(FisherStars(row.FisherP));
       if (row.FisherP < 0.05) {
         ++result_.FisherSignificant;
@@ -84,7 +85,7 @@ class PairTester {
   LinkageResult& result_;
   double alpha_ = 0.0;
   ChiSquareBracket bracket_;
-  LogFactorialTable log_factorial_;
+  PairFisher exact_;
 };
 
 void FitRegressions(const RegressionPoints& points, LinkageResult& result) {
