@@ -47,20 +47,20 @@ TEST(AlleleOrder, TheOrderSetsTheSignOfDAndR) {
   const test::OwnedSelection sel = test::SelectedFrom(test::MakeAlignment(
       {"AG", "AA", "AA", "CA", "CG", "CA"}));
   const LinkageResult r = ComputeLinkage(sel, {});
-  ASSERT_EQ(r.Pairs.size(), 1u);
+  ASSERT_EQ(r.Pairs().size(), 1u);
   // Site 1: A A A C C C (tie: A first); site 2: G A A A G A (A first). Carriers 111000 and
   // 011101: h11 = 2, h12 = 1, h21 = 2, h22 = 1: D = (2 - 2) / 36 = 0.
-  EXPECT_EQ(r.Pairs[0].D, 0.0);
-  EXPECT_EQ(r.Pairs[0].DPrime, 0.0);
+  EXPECT_EQ(r.Pairs()[0].D, 0.0);
+  EXPECT_EQ(r.Pairs()[0].DPrime, 0.0);
   const test::OwnedSelection sel4 = test::SelectedFrom(test::MakeAlignment(
       {"AG", "AA", "CA", "CA", "CG", "CA"}));
   const LinkageResult r4 = ComputeLinkage(sel4, {});
   // Site 1: A A C C C C: C first (4 of 6), carriers 001111. Site 2: G A A A G A, A first,
   // carriers 011101. h11 = 3 (s3, s4, s6), h12 = 1 (s5), h21 = 1 (s2), h22 = 1 (s1):
   // D = (3 - 1) / 36 = 1/18 > 0. With sequence 1's nucleotides first it would be -1/18.
-  ASSERT_EQ(r4.Pairs.size(), 1u);
-  EXPECT_NEAR(r4.Pairs[0].D, 1.0 / 18, 1e-15);
-  EXPECT_GT(r4.Pairs[0].R, 0.0);
+  ASSERT_EQ(r4.Pairs().size(), 1u);
+  EXPECT_NEAR(r4.Pairs()[0].D, 1.0 / 18, 1e-15);
+  EXPECT_GT(r4.Pairs()[0].R, 0.0);
 }
 
 TEST(PairMeasures, DZeroTakesThePositiveBranchAndGivesDPrimeZero) {

@@ -61,9 +61,9 @@ TEST(LinkageByHand, PairsCarryTheHandWorkedMeasures) {
       {1, 2, 1, 1.0 / 12, 1.0 / 3, 1.0 / 9, 1},  {1, 3, 2, 1.0 / 12, 1.0 / 3, 1.0 / 9, 1},
       {1, 4, 3, 0.0, 0.0, 0.0, 0},               {2, 3, 1, 0.25, 1.0, 1.0, 1},
       {2, 4, 2, -1.0 / 6, -1.0, 0.5, -1},        {3, 4, 1, -1.0 / 6, -1.0, 0.5, -1}};
-  ASSERT_EQ(r.Pairs.size(), expected.size());
+  ASSERT_EQ(r.Pairs().size(), expected.size());
   for (size_t i = 0; i < expected.size(); ++i) {
-    const LinkagePairRow& p = r.Pairs[i];
+    const LinkagePairRow& p = r.Pairs()[i];
     const Expected& e = expected[i];
     SCOPED_TRACE(i);
     EXPECT_EQ(p.Site1, e.site1);
@@ -165,15 +165,15 @@ TEST(LinkageByHand, ChiSquareOfEachPairIsThePearsonValue) {
   const LinkageResult r = RunHand(options);
   // n (ad - bc)^2 / margins: (1,2) 6 9 / 81 = 2/3; (1,4) 0; (2,3) 6 81 / 81 = 6;
   // (2,4) 6 36 / (3 3 4 2) = 3.
-  EXPECT_NEAR(r.Pairs[0].ChiSquare, 2.0 / 3, 1e-12);
-  EXPECT_NEAR(r.Pairs[2].ChiSquare, 0.0, 1e-12);
-  EXPECT_NEAR(r.Pairs[3].ChiSquare, 6.0, 1e-12);
-  EXPECT_NEAR(r.Pairs[4].ChiSquare, 3.0, 1e-12);
+  EXPECT_NEAR(r.Pairs()[0].ChiSquare, 2.0 / 3, 1e-12);
+  EXPECT_NEAR(r.Pairs()[2].ChiSquare, 0.0, 1e-12);
+  EXPECT_NEAR(r.Pairs()[3].ChiSquare, 6.0, 1e-12);
+  EXPECT_NEAR(r.Pairs()[4].ChiSquare, 3.0, 1e-12);
   // Only (2,3) is above 3.84145; alpha' for 6 pairs is 1 - 0.95^(1/6) = 0.008512, between 0.005
   // and 0.01: bracket 6.635 .. 7.879, and 6 is below it.
   EXPECT_EQ(r.ChiSquareSignificant, 1);
   EXPECT_EQ(r.ChiSquareBonferroni, 0);
-  EXPECT_EQ(r.Pairs[3].ChiSquareStars, 1);
+  EXPECT_EQ(r.Pairs()[3].ChiSquareStars, 1);
   EXPECT_NEAR(r.BonferroniAlpha, 1 - std::pow(0.95, 1.0 / 6), 1e-15);
 }
 
@@ -183,8 +183,8 @@ TEST(LinkageByHand, FisherOfThePerfectPair) {
   const LinkageResult r = RunHand(options);
   // (2,3) = (3,0,0,3): the observed table is the most extreme of its margins, P1 = 1/C(6,3) =
   // 1/20; the other extreme (0,3,3,0) has the same 1/20, which does not exceed P1: P = 1/10.
-  EXPECT_NEAR(r.Pairs[3].FisherP, 0.1, 1e-7);
-  EXPECT_EQ(r.Pairs[3].FisherStars, 0);
+  EXPECT_NEAR(r.Pairs()[3].FisherP, 0.1, 1e-7);
+  EXPECT_EQ(r.Pairs()[3].FisherStars, 0);
   EXPECT_EQ(r.FisherSignificant, 0);
 }
 

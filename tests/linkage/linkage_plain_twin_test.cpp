@@ -112,12 +112,12 @@ TEST_P(PlainTwin, SameCountsMeasuresAndTests) {
     const std::vector<PlainPair> plain = PlainScan(sel, all_sites);
     ASSERT_GT(plain.size(), 20u);
     const LinkageResult fast = ComputeLinkage(sel, options);
-    ASSERT_EQ(fast.Pairs.size(), plain.size());
+    ASSERT_EQ(fast.Pairs().size(), plain.size());
     LogFactorialTable lf(n);
     double zns = 0;
     for (size_t k = 0; k < plain.size(); ++k) {
       const PlainPair& p = plain[k];
-      const LinkagePairRow& f = fast.Pairs[k];
+      const LinkagePairRow& f = fast.Pairs()[k];
       SCOPED_TRACE(::testing::Message() << "n " << n << " pair " << p.site1 << "-" << p.site2);
       EXPECT_EQ(f.Site1, p.site1);
       EXPECT_EQ(f.Site2, p.site2);

@@ -20,14 +20,14 @@ CommandReport Report(const LinkageResult& result, const Selection& sel, const Li
   report.Body = LinkageReportBody(result);
   report.GridTextHead = LinkageTextHead(result.Tests());
   report.Graph = LinkageGraph(result);
-  const auto rows = static_cast<int64_t>(result.Pairs.size());
+  const auto rows = static_cast<int64_t>(result.Pairs().size());
   if (IsGridTooBig(rows)) {
     // The lines are made as the file is written, from the pairs the result shares.
-    auto kept = std::make_shared<const LinkageResult>(result);
+    auto kept = std::make_shared<const LinkageResult>(result);  // the pairs are not copied
     CommandReport::LongTable table;
     table.Rows = rows;
     table.Row = [kept](int64_t r) {
-      return std::vector<std::string>{LinkageFileLine(kept->Pairs[static_cast<size_t>(r)])};
+      return std::vector<std::string>{LinkageFileLine(kept->Pairs()[static_cast<size_t>(r)])};
     };
     table.FileHead = [kept](const Platform::DateTime& when) {
       return LinkageFileHead(*kept, when);
@@ -40,7 +40,7 @@ CommandReport Report(const LinkageResult& result, const Selection& sel, const Li
   report.Grid1.ColumnTitles = LinkageGridTitles(result.Tests());
   report.GridArray = "pairs";
   report.Grid1.Rows.reserve(static_cast<size_t>(rows));
-  for (const LinkagePairRow& row : result.Pairs) report.Grid1.Rows.push_back(LinkageGridCells(row));
+  for (const LinkagePairRow& row : result.Pairs()) report.Grid1.Rows.push_back(LinkageGridCells(row));
   report.ShowKinds = {kResultAddGraph, kResultTextAndGrid};
   return report;
 }

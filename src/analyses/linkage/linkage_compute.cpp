@@ -127,7 +127,8 @@ LinkageResult Scan(const Selection& sel, const LinkageOptions& options,
   SummaryGatherer summaries;
   RegressionPoints points;
   points.Reserve(static_cast<std::size_t>(result.PairCount));
-  result.Pairs.reserve(static_cast<std::size_t>(result.PairCount));
+  std::vector<LinkagePairRow> pairs;
+  pairs.reserve(static_cast<std::size_t>(result.PairCount));
 
   int64_t done = 0;
   int percent = 0;
@@ -137,7 +138,7 @@ LinkageResult Scan(const Selection& sel, const LinkageOptions& options,
       const int32_t site2 = sites.Sites[static_cast<std::size_t>(b)];
       const HaplotypePairCounts h = bits.Counts(a, b);
       const PairMeasures m = MeasuresFromCounts(h, n);
-      LinkagePairRow& row = result.Pairs.emplace_back();
+      LinkagePairRow& row = pairs.emplace_back();
       row.Site1 = site1;
       row.Site2 = site2;
       row.Dist = distance(site1, site2);
@@ -157,6 +158,7 @@ LinkageResult Scan(const Selection& sel, const LinkageOptions& options,
       progress.Raise(percent);
     }
   }
+  result.PairRows = std::make_shared<const std::vector<LinkagePairRow>>(std::move(pairs));
   result.Summaries = summaries.Finish(s);
   FitRegressions(points, result);
   return result;

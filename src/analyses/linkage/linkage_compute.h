@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -71,8 +72,12 @@ struct LinkageResult {
   LinkageSummaries Summaries;
   // |D|, |D'|, |D'|* (the pairs whose |D'| is not 1) and r^2 on the distance in kb.
   std::vector<DistanceRegression> Regressions;
-  std::vector<LinkagePairRow> Pairs;
+  // The pairs in scan order, shared by the copies of the result (the file of a long table is
+  // written from them after the run).
+  std::shared_ptr<const std::vector<LinkagePairRow>> PairRows =
+      std::make_shared<const std::vector<LinkagePairRow>>();
 
+  [[nodiscard]] const std::vector<LinkagePairRow>& Pairs() const { return *PairRows; }
   [[nodiscard]] int Tests() const { return TestCode(Fisher, ChiSquare); }
 
   template <class V>
@@ -100,7 +105,7 @@ struct LinkageResult {
     v.Number("wall_b", Summaries.WallB);
     v.Number("wall_q", Summaries.WallQ);
     v.Array("regressions", Regressions);
-    v.Array("pairs", Pairs);
+    v.Array("pairs", Pairs());
   }
 };
 
