@@ -47,6 +47,12 @@ struct CommandReport {
     int64_t Rows = 0;
     // The cells of row `r` (0 .. Rows - 1).
     std::function<std::vector<std::string>(int64_t r)> Row;
+    // A file of the command's own: its head (given the time of writing) in place of the
+    // rule and column head of a saved grid, and each row's cells written as they stand.
+    std::function<std::string(const Platform::DateTime& when)> FileHead;
+    // Whether answering No (or cancelling the file) ends the run with no result standing,
+    // rather than leaving the result without the table.
+    bool DeclineEndsRun = false;
   };
   std::optional<LongTable> LongGrid;
 };

@@ -27,6 +27,17 @@ std::string CompactNumberList(const std::vector<int32_t>& numbers) {
   return text;
 }
 
+std::string RegionLine(const RegionSelection& region) {
+  return " Selected region: " + std::to_string(region.RegionFrom) + "-" +
+         std::to_string(region.RegionTo) +
+         "   Number of sites: " + std::to_string(region.RegionTo - region.RegionFrom + 1);
+}
+
+std::string NetSitesLine(int32_t net_sites) {
+  return " Total number of sites (excluding sites with gaps / missing data): " +
+         std::to_string(net_sites);
+}
+
 std::string ReportHead(const Selection& sel, int32_t net_sites, bool with_fixed_gaps) {
   const ActiveData& ad = sel.data();
   std::string head = kCrLf;
@@ -60,10 +71,8 @@ std::string ReportHead(const Selection& sel, int32_t net_sites, bool with_fixed_
     }
   }
 
-  const int32_t from = sel.Region.RegionFrom, to = sel.Region.RegionTo;
-  const int32_t sites = to - from + 1;
-  head += " Selected region: " + std::to_string(from) + "-" + std::to_string(to) +
-          "   Number of sites: " + std::to_string(sites) + kCrLf;
+  const int32_t sites = sel.Region.RegionTo - sel.Region.RegionFrom + 1;
+  head += RegionLine(sel.Region) + kCrLf;
   if (ad.GapsInSets == 2) {
     head += std::string("    Sites with gaps in the complete data file were excluded") + kCrLf;
   }
@@ -74,8 +83,7 @@ std::string ReportHead(const Selection& sel, int32_t net_sites, bool with_fixed_
               std::to_string(sites - fixed) + kCrLf;
     }
   }
-  head += " Total number of sites (excluding sites with gaps / missing data): " +
-          std::to_string(net_sites) + kCrLf;
+  head += NetSitesLine(net_sites) + kCrLf;
   return head;
 }
 

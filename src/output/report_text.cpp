@@ -78,6 +78,15 @@ void StreamGridAsText(std::ostream& out, const ResultLabels& labels, const std::
     out << JoinCells(row(r), labels.GridCellSeparator) << kCrLf;
 }
 
+void StreamTableFile(std::ostream& out, const std::string& head, int64_t rows,
+                     const std::function<std::vector<std::string>(int64_t)>& row) {
+  out << head;
+  for (int64_t r = 0; r < rows && out; ++r) {
+    for (const std::string& cell : row(r)) out << cell;
+    out << kCrLf;
+  }
+}
+
 std::string SecondTableAsText(const ResultLabels& labels, const OutputGrid& grid) {
   return RuledTable(labels, JoinCells(grid.ColumnTitles, labels.GridCellSeparator), grid);
 }

@@ -39,6 +39,11 @@ void StreamGridAsText(std::ostream& out, const ResultLabels& labels, const std::
                       int64_t rows,
                       const std::function<std::vector<std::string>(int64_t)>& row);
 
+// A table file of a command's own: `head` as it stands, then one line per row, its cells written
+// one after the other (the row's own blanks separate them).
+void StreamTableFile(std::ostream& out, const std::string& head, int64_t rows,
+                     const std::function<std::vector<std::string>(int64_t)>& row);
+
 // The second table, laid out as the grid, its own column titles standing as the head.
 [[nodiscard]] std::string SecondTableAsText(const ResultLabels& labels, const OutputGrid& grid);
 

@@ -7,6 +7,7 @@
 #include "analyses/divergence/gene_conversion/gene_conversion_command.h"
 #include "analyses/divergence/gene_flow/gene_flow_command.h"
 #include "analyses/divergence/synonymous/synonymous_command.h"
+#include "analyses/linkage/linkage_command.h"
 #include "analyses/polymorphism/diversity/dna_polymorphism_command.h"
 #include "analyses/polymorphism/neutrality/fu_li_command.h"
 #include "analyses/polymorphism/neutrality/fu_li_outgroup_command.h"
@@ -90,22 +91,27 @@ std::vector<CommandEntry> BuildRegistry() {
                      .GridTextHead = "     Window Midpoint Pi(1)    Pi(2)     Dxy       Da"},
       },
       DnaDivergenceBinding());
-  add({
-      .Id = CommandId::kLinkageDisequilibrium,
-      .Title = "Linkage Disequilibrium",
-      .Handler = "MenuDLigamiento_Click",
-      .MenuText = "&Linkage Disequilibrium...",
-      .Checks = {Check::kOneSequence},
-      .ChecksText = "one sequence",
-      .Dialog = "Form9",
-      .Menu = "Analysis",
-      .CliName = "linkage-disequilibrium",
-      .MinimumSequences = 2,
-      .Labels = {.Title = "Linkage Disequilibrium",
-                 .GridCaption = "Output. Table of: Linkage Disequilibrium",
-                 .SecondGridCaption = "Output: No. of Mutations and Sites (Intraspecific Data)",
-                 .GridTextHead = "Site1  Site2   Dist     D       D'      R"},
-  });
+  add(
+      {
+          .Id = CommandId::kLinkageDisequilibrium,
+          .Title = "Linkage Disequilibrium",
+          .Handler = "MenuDLigamiento_Click",
+          .MenuText = "&Linkage Disequilibrium...",
+          .Checks = {Check::kOneSequence},
+          .ChecksText = "one sequence",
+          .Dialog = "Form9",
+          .Menu = "Analysis",
+          .CliName = "linkage-disequilibrium",
+          .Description = "D, D', R and R^2 of every pair of biallelic sites with Fisher's exact "
+                         "and chi-square tests, ZnS, Za, ZZ, Wall's B and Q and the regressions "
+                         "on distance (--grid gives the pairs)",
+          .MinimumSequences = 2,
+          .Labels = {.Title = "Linkage Disequilibrium",
+                     .GridCaption = "Output. Table of: Linkage Disequilibrium",
+                     .SecondGridCaption = "Output: No. of Mutations and Sites (Intraspecific Data)",
+                     .GridTextHead = "Site1  Site2   Dist     D       D'      R"},
+      },
+      LinkageBinding());
   // Tajima
   add(
       {

@@ -41,19 +41,26 @@ void Stop(OutputChannel& channel, Platform& ui, const CommandFailure& failure) {
 }
 
 constexpr const char* kWritingOnFile = "Writing output on a file...";
+constexpr const char* kWritingShort = "Writing...";
 
 // A table of pairwise comparisons too long for the grid: on Yes and a file, its rows go there
-// as the grid of a saved output would; on No the result stands without it.
-void SaveLongTable(OutputChannel& channel, Platform& ui, const ResultLabels& labels,
+// as the grid of a saved output would (or under the command's own file head); on No the result
+// stands without it, or nothing stands when the command says so. Returns whether the result
+// stands.
+bool SaveLongTable(OutputChannel& channel, Platform& ui, const ResultLabels& labels,
                    const std::string& head, const CommandReport::LongTable& table) {
   const std::optional<std::string> path = channel.AskTooBigPairs(table.Rows);
-  if (!path) return;
+  if (!path) return !table.DeclineEndsRun;
   const std::string previous_status = channel.StatusText();
-  channel.SetStatus(kWritingOnFile);
+  channel.SetStatus(table.FileHead ? kWritingShort : kWritingOnFile);
   WholeFileWriter writer(*path);
   bool written = writer.Open();
   if (written) {
-    StreamGridAsText(writer.Stream(), labels, head, table.Rows, table.Row);
+    if (table.FileHead) {
+      StreamTableFile(writer.Stream(), table.FileHead(ui.Now()), table.Rows, table.Row);
+    } else {
+      StreamGridAsText(writer.Stream(), labels, head, table.Rows, table.Row);
+    }
     written = writer.Commit();
   }
   if (!written) {
@@ -61,9 +68,19 @@ void SaveLongTable(OutputChannel& channel, Platform& ui, const ResultLabels& lab
     ui.MessageBox("Can't save the output on the file: " + *path, MsgIcon::kWarning);
   }
   channel.SetStatus(previous_status);
+  return true;
 }
 
-void Show(OutputChannel& channel, Platform& ui, const CommandFacts& facts, CommandReport report) {
+// Hands the report to the channel; false when the run ends there with nothing standing.
+bool Show(OutputChannel& channel, Platform& ui, const CommandFacts& facts, CommandReport report) {
+  // A run that ends on a No to the long table's question shows nothing, so it asks first.
+  if (report.LongGrid && report.LongGrid->DeclineEndsRun) {
+    if (!SaveLongTable(channel, ui, facts.Labels, "", *report.LongGrid)) {
+      channel.SetBusy(false);
+      return false;
+    }
+    report.LongGrid.reset();
+  }
   channel.ResultCode = facts.ResultCode();
   channel.Labels = facts.Labels;
   channel.HeaderBlock = report.Head;
@@ -75,13 +92,14 @@ void Show(OutputChannel& channel, Platform& ui, const CommandFacts& facts, Comma
   for (const CommandReport::Notice& notice : report.Notices)
     ui.MessageBox(notice.Text, notice.Icon);
   if (report.LongGrid)
-    SaveLongTable(channel, ui, facts.Labels,
-                  report.GridTextHead ? *report.GridTextHead : facts.Labels.GridTextHead,
-                  *report.LongGrid);
+    (void)SaveLongTable(channel, ui, facts.Labels,
+                        report.GridTextHead ? *report.GridTextHead : facts.Labels.GridTextHead,
+                        *report.LongGrid);
   if (report.Graph) channel.SetGraph(std::move(*report.Graph));
   for (const int kind : report.ShowKinds) channel.ShowResult(kind);
   channel.SetBusy(false);
   if (report.Status) channel.SetStatus(*report.Status);
+  return true;
 }
 
 }  // namespace
@@ -119,7 +137,7 @@ RunOutcome RunCommand(ActiveData* data, OutputChannel& channel, Platform& ui,
     Stop(channel, ui, CommandFailure(FailureKind::kFailed, kOutOfMemory));
     return outcome;
   }
-  Show(channel, ui, entry.Facts, std::move(product.Report));
+  if (!Show(channel, ui, entry.Facts, std::move(product.Report))) return outcome;
   channel.Used = product.Used;
   // A calculator's run leaves the open file's region and result as they were.
   if (data != nullptr && entry.Binding->NeedsData()) {

@@ -115,7 +115,7 @@ INSTANTIATE_TEST_SUITE_P(
         GridCase{"GeneFlowPairs",
                  {"gene-flow", kExample, "--set-def", "P=1-4", "--set-def", "Q=5-8", "--set-def",
                   "R=9-12", "--permutation", "--replicates", "50"},
-                 {"pairs"}},
+                 {"population_pairs"}},
         GridCase{"SynonymousPairs",
                  {"synonymous", kExample, "--coding", "1-900", "--seed", "11", "--pair-table"},
                  {"pair_table"}}),

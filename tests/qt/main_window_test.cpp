@@ -11,6 +11,7 @@
 #include <QTableWidget>
 #include <QTimer>
 
+#include "output/graph_data.h"
 #include "shell/command_registry.h"
 #include "support/scripted_platform.h"
 #include "support/temp_dir.h"
@@ -82,8 +83,33 @@ TEST_F(MainWindowTest, TheFrameShowsTheVersion) {
 
 TEST_F(MainWindowTest, CommandsThatAreNotBuiltAreNotShown) {
   MainWindow window(p);
-  EXPECT_FALSE(window.ActionFor("MenuDLigamiento_Click")->isVisible());
+  EXPECT_FALSE(window.ActionFor("MenuHKANew_Click")->isVisible());
+  EXPECT_TRUE(window.ActionFor("MenuGeneConversionNew_Click")->isVisible());
+  EXPECT_TRUE(window.ActionFor("MenuDLigamiento_Click")->isVisible());
   EXPECT_TRUE(window.ActionFor("leer_Click")->isVisible());
+}
+
+TEST_F(MainWindowTest, LinkageDisequilibriumFillsTextGridAndGraph) {
+  const std::string ld =
+      dir.Write("ld.fas", ">a\nAACG\n>b\nAACA\n>c\nAGTA\n>d\nGGTA\n>e\nGACG\n>f\nGGTA\n");
+  MainWindow window(p);
+  ASSERT_TRUE(window.Bench().OpenPath(ld));
+  window.Refresh();
+  OnNextDialog([](QDialog* dialog) {
+    for (auto* box : dialog->findChildren<QCheckBox*>())
+      if (box->text() == "Fisher's exact test") box->setChecked(true);
+    dialog->accept();
+  });
+  window.Trigger("MenuDLigamiento_Click");
+  const OutputChannel& out = window.Bench().Output();
+  EXPECT_NE(out.TextBuffer.find(" Value of ZnS (Kelly 1997): 0.3704"), std::string::npos);
+  EXPECT_TRUE(window.Shows(window.Text()));
+  EXPECT_TRUE(window.Shows(window.Grid()));
+  EXPECT_EQ(out.Grid1.Rows.size(), 6u);
+  ASSERT_FALSE(out.Grid1.ColumnTitles.empty());
+  EXPECT_EQ(out.Grid1.ColumnTitles.back(), "Fisher");
+  EXPECT_EQ(out.Graph().GraphKind, kGraphLinkage);
+  EXPECT_EQ(out.Graph().GraphRows, 6);
 }
 
 TEST_F(MainWindowTest, DataInformationGoesToTheTextWindow) {

@@ -50,7 +50,7 @@ CommandReport Report(const GeneFlowResult& result, const Selection&, const GeneF
   CommandReport report;
   report.Body = GeneFlowReport(result);
   report.Grid1.ColumnTitles = GeneFlowPairTitles();
-  report.GridArray = "pairs";
+  report.GridArray = "population_pairs";
   for (const GeneFlowPair& pair : result.Pairs) report.Grid1.Rows.push_back(GeneFlowPairRow(pair));
   report.GeneFlow = GeneFlowPairTable(result);
   report.ShowKinds = {kResultTextAndGrid};

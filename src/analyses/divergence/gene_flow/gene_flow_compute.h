@@ -95,7 +95,7 @@ struct GeneFlowResult {
     v.Optional("nm_fst", Nm(Overall.Stats.Fst));
     v.Integer("replicates", Replicates);
     v.Integer("seed", Seed);
-    v.Array("pairs", Pairs);
+    v.Array("population_pairs", Pairs);
   }
 };
 

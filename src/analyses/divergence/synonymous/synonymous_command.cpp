@@ -42,10 +42,13 @@ CommandReport Report(const SynonymousResult& result, const Selection& sel,
   if (IsGridTooBig(rows)) {
     // The rows are made as the file is written, from the numbers the result shares.
     auto kept = std::make_shared<const SynonymousResult>(result);
-    report.LongGrid = CommandReport::LongTable{rows, [kept, n](int64_t row) {
-                                                 const auto [i, j] = PairOfRow(n, row);
-                                                 return SynonymousPairCells(*kept, i, j);
-                                               }};
+    CommandReport::LongTable table;
+    table.Rows = rows;
+    table.Row = [kept, n](int64_t row) {
+      const auto [i, j] = PairOfRow(n, row);
+      return SynonymousPairCells(*kept, i, j);
+    };
+    report.LongGrid = std::move(table);
     return report;
   }
   report.Grid1.ColumnTitles = SynonymousPairTitles(silent);
