@@ -3,10 +3,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTableWidget>
 #include <QTimer>
+#include <QToolButton>
 
 #include "core/set_definition.h"
 #include "support/scripted_platform.h"
@@ -14,6 +16,7 @@
 #include "ui/qt/grid_window.h"
 #include "ui/qt/main_window.h"
 #include "ui/qt/option_dialog.h"
+#include "ui/qt/select_statistic_dialog.h"
 #include "ui/qt/text_window.h"
 
 namespace ovelt {
@@ -292,6 +295,35 @@ TEST(AnalysisDialogs, GeneFlowRunsWithItsTestAndShowsBothGrids) {
   EXPECT_EQ(tests->horizontalHeaderItem(7)->text(), "P(Snn)");
   ASSERT_NE(tests->item(0, 0), nullptr);
   EXPECT_EQ(tests->item(0, 0)->text().trimmed(), "A");
+
+  // The table of pairs offers its export: Select Statistic, then the file.
+  QToolButton* exporting = window.Grid()->ExportButton();
+  ASSERT_NE(exporting, nullptr);
+  EXPECT_FALSE(exporting->isHidden());
+  const std::string matrix = dir.File("fst.meg");
+  p.SaveNames.push_back(matrix);
+  QTimer::singleShot(0, [] {
+    auto* select = qobject_cast<SelectStatisticDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(select, nullptr);
+    EXPECT_EQ(select->StatisticBox()->currentText(), "Fst");
+    select->FormatBox()->setCurrentIndex(1);
+    select->accept();
+  });
+  exporting->click();
+  EXPECT_EQ(testing::ReadBytes(matrix),
+            "#mega\r\n!Title: Fst values exported by Ovelt Workbench (Ovelt); fst.meg;\r\n"
+            "#A\r\n#B\r\n\r\n0.44444\r\n");
+  ASSERT_FALSE(p.SaveDialogs.empty());
+  EXPECT_EQ(p.SaveDialogs.back().Title, "MEGA Format File");
+  EXPECT_EQ(p.SaveDialogs.back().Filter, "MEGA Format (*.meg)|*.meg|All Files (*.*)|*.*");
+
+  // Another result takes the offer away.
+  QTimer::singleShot(0, [] {
+    if (auto* dialog = qobject_cast<OptionDialog*>(QApplication::activeModalWidget()))
+      dialog->accept();
+  });
+  window.ActionFor("MenuDnaPol_Click")->trigger();
+  EXPECT_TRUE(window.Grid()->ExportButton()->isHidden());
 }
 
 }  // namespace

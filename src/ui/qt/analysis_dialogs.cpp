@@ -16,22 +16,27 @@ void AddAnalysisHandlers(MainWindow& window) {
     // The calculators (coalescent, independence) keep their fields and results in windows of
     // their own (tool_windows.cpp), which run them through the same runner.
     if (!entry.Binding->NeedsData()) continue;
-    window.AddHandler(entry.Facts.Handler,
-                      [parent, &wb, &entry] { RunAnalysisWithDialog(parent, wb, entry); });
+    window.AddHandler(entry.Facts.Handler, [parent, &wb, &entry, &window] {
+      const RunOutcome outcome = RunAnalysisWithDialog(parent, wb, entry);
+      if (outcome.Stands) window.OfferExports(outcome);
+    });
   }
 }
 
-void RunAnalysisWithDialog(QWidget* parent, Workbench& wb, const CommandEntry& entry) {
-  if (!wb.BeginCommand(entry.Facts.Number())) return;
+RunOutcome RunAnalysisWithDialog(QWidget* parent, Workbench& wb, const CommandEntry& entry) {
+  RunOutcome outcome;
+  if (!wb.BeginCommand(entry.Facts.Number())) return outcome;
   const std::unique_ptr<CommandOptions> options = entry.Binding->NewOptions();
   for (;;) {
     OptionDialog dialog(QString::fromStdString(entry.Facts.Title), parent);
     BuildOptionDialog(dialog, *options, wb.Data());
     AttachHelpKey(&dialog, wb.Ui(), entry.Facts.CliName);
     if (dialog.exec() != QDialog::Accepted) break;
-    if (RunCommand(wb, entry, *options).Stands || wb.Output().ReopenDialog == 0) break;
+    outcome = RunCommand(wb, entry, *options);
+    if (outcome.Stands || wb.Output().ReopenDialog == 0) break;
   }
   wb.EndCommand();
+  return outcome;
 }
 
 }  // namespace ovelt

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "command/command_entry.h"
+#include "shell/command_runner.h"
 #include "shell/workbench.h"
 
 namespace ovelt {
@@ -15,7 +16,7 @@ class MainWindow;
 // Adds the menu handler of every built analysis of the registry.
 void AddAnalysisHandlers(MainWindow& window);
 
-// The dialog loop of one analysis.
-void RunAnalysisWithDialog(QWidget* parent, Workbench& wb, const CommandEntry& entry);
+// The dialog loop of one analysis. The outcome of the last run of the dialog (none standing when cancelled or refused).
+RunOutcome RunAnalysisWithDialog(QWidget* parent, Workbench& wb, const CommandEntry& entry);
 
 }  // namespace ovelt

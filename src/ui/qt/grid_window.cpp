@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QTableWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -10,11 +11,25 @@ namespace ovelt {
 
 GridWindow::GridWindow(QWidget* parent) : QWidget(parent) {
   auto* layout = new QVBoxLayout(this);
+  export_ = new QToolButton;
+  export_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+  export_->hide();
+  connect(export_, &QToolButton::clicked, this, [this] {
+    if (export_action_) export_action_();
+  });
   table_ = new QTableWidget;
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(export_, 0, Qt::AlignLeft);
   layout->addWidget(table_);
   setFocusProxy(table_);
+}
+
+void GridWindow::SetExport(const QString& text, std::function<void()> action) {
+  export_action_ = std::move(action);
+  export_->setText(text);
+  export_->setToolTip(text);
+  export_->setVisible(static_cast<bool>(export_action_));
 }
 
 void GridWindow::SetGrid(const QString& caption, const OutputGrid& grid, int minimum_rows) {

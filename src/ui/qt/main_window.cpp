@@ -13,7 +13,9 @@
 #include <QTimer>
 #include <QToolBar>
 
+#include "analyses/divergence/gene_flow/gene_flow_compute.h"
 #include "core/gap_settings.h"
+#include "shell/matrix_export.h"
 #include "ui/qt/analysis_dialogs.h"
 #include "ui/qt/data_info_window.h"
 #include "ui/qt/data_viewer_handlers.h"
@@ -25,6 +27,7 @@
 #include "ui/qt/include_dialog.h"
 #include "ui/qt/print_output.h"
 #include "ui/qt/qt_platform.h"
+#include "ui/qt/select_statistic_dialog.h"
 #include "ui/qt/set_dialogs_handlers.h"
 #include "ui/qt/text_window.h"
 #include "ui/qt/tool_bar.h"
@@ -205,6 +208,20 @@ void MainWindow::Trigger(const std::string& handler) {
   Refresh();
 }
 
+void MainWindow::OfferExports(const RunOutcome& outcome) {
+  const auto* flow = std::any_cast<std::shared_ptr<const GeneFlowResult>>(&outcome.Result);
+  if (flow == nullptr || *flow == nullptr) {
+    grid_->SetExport({}, {});
+    return;
+  }
+  std::shared_ptr<const GeneFlowResult> result = *flow;
+  grid_->SetExport("Export Distance Matrix...", [this, result] {
+    SelectStatisticDialog dialog(this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    ExportDistanceMatrix(workbench_.Ui(), *result, dialog.Statistic(), dialog.Format());
+  });
+}
+
 void MainWindow::Refresh() {
   MenuModel& menus = workbench_.Menus();
   const OutputCommands& out = workbench_.Output().Commands();
@@ -249,6 +266,8 @@ void MainWindow::ShowResults() {
                                 : channel.ResultCode != 0   ? std::string("Output. Grid")
                                                             : "Output. Table of: " + title;
     grid_->SetGrid(Q(caption), channel.Grid1, channel.GridRows);
+    // Only a gene-flow table offers its export (OfferExports, after the run).
+    if (channel.ResultCode != static_cast<int>(CommandId::kGeneFlow)) grid_->SetExport({}, {});
     workspace_->Show(grid_);
   } else {
     workspace_->Hide(grid_);

@@ -23,6 +23,7 @@ class QTimer;
 namespace ovelt {
 
 class QtPlatform;
+struct RunOutcome;
 class TextWindow;
 class GridWindow;
 class Workspace;
@@ -69,6 +70,10 @@ class MainWindow : public QMainWindow {
 
   // Brings menus, captions, title and result windows in line with the model.
   void Refresh();
+
+  // After a run that stands: the files its result can be written to, offered in its windows
+  // (a gene-flow statistic as a distance matrix); a result without any takes the offer away.
+  void OfferExports(const RunOutcome& outcome);
 
   // Restores the window's geometry and the workspace's layout from `settings` (or sizes the
   // window to its screen), and saves both there when the window closes. `settings` must
