@@ -62,22 +62,26 @@ std::vector<std::string> LinkageGridCells(const LinkagePairRow& row) {
 std::string LinkageFileLine(const LinkagePairRow& row) {
   std::string line;
   line.reserve(80);
-  line += RightAlignedFive(row.Site1);
+  AppendRightAlignedFive(line, row.Site1);
   line += kFieldGap;
-  line += RightAlignedFive(row.Site2);
+  AppendRightAlignedFive(line, row.Site2);
   line += kFieldGap;
-  line += RightAlignedFive(row.Dist);
+  AppendRightAlignedFive(line, row.Dist);
   for (const double value : {row.D, row.DPrime, row.R}) {
     line += kFieldGap;
-    line += SignedCell(value);
+    AppendThreeDecimals(line, value, true);
   }
   if (row.HasFisher) {
     line += kFieldGap;
-    line += FisherCell(row);
+    AppendThreeDecimals(line, row.FisherP);
+    line += StarMark(row.FisherStars);
+    line += row.FisherBonferroni ? 'B' : ' ';
   }
   if (row.HasChiSquare) {
     line += kFieldGap;
-    line += ChiSquareCell(row);
+    AppendThreeDecimals(line, row.ChiSquare);
+    line += StarMark(row.ChiSquareStars);
+    line += row.ChiSquareBonferroni ? 'B' : ' ';
   }
   return line;
 }

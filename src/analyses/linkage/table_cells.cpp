@@ -1,5 +1,6 @@
 #include "analyses/linkage/table_cells.h"
 
+#include <charconv>
 #include <cmath>
 
 #include "output/format_mask.h"
@@ -53,6 +54,46 @@ std::string ThreeDecimals(float value) {
       !QuickThousandths(wide, 1e-3, thousandths))
     return Format(value, kMask);
   return FromThousandths(wide < 0.0, thousandths);
+}
+
+namespace {
+
+// Appends "[-]units.ddd" of a count of thousandths.
+void AppendThousandths(std::string& line, bool negative, int64_t thousandths) {
+  char buffer[32];
+  char* at = buffer;
+  if (negative) *at++ = '-';
+  at = std::to_chars(at, buffer + sizeof buffer - 4, thousandths / 1000).ptr;
+  const auto rest = static_cast<int>(thousandths % 1000);
+  *at++ = '.';
+  *at++ = static_cast<char>('0' + rest / 100);
+  *at++ = static_cast<char>('0' + rest / 10 % 10);
+  *at++ = static_cast<char>('0' + rest % 10);
+  line.append(buffer, at);
+}
+
+}  // namespace
+
+void AppendThreeDecimals(std::string& line, double value, bool signed_blank) {
+  int64_t thousandths = 0;
+  if (!std::isfinite(value) || !QuickThousandths(value, 1e-6, thousandths)) {
+    const std::string text = Format(value, kMask);
+    if (signed_blank && text.front() != '-') line += ' ';
+    line += text;
+    return;
+  }
+  if (signed_blank && value >= 0.0) line += ' ';
+  AppendThousandths(line, value < 0.0, thousandths);
+}
+
+void AppendThreeDecimals(std::string& line, float value) { line += ThreeDecimals(value); }
+
+void AppendRightAlignedFive(std::string& line, int32_t value) {
+  char buffer[16];
+  const char* end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
+  const auto length = static_cast<size_t>(end - buffer);
+  if (length < 5) line.append(5 - length, ' ');
+  line.append(buffer, length);
 }
 
 std::string RightAlignedFive(int32_t value) {

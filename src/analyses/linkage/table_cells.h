@@ -16,4 +16,11 @@ namespace ovelt {
 // Format(value, "@@@@@"): the integer right-aligned in five places (a longer one whole).
 [[nodiscard]] std::string RightAlignedFive(int32_t value);
 
+// The same cells appended to a line under construction, with no string of their own: the pair
+// file writes two million lines. `signed_blank` puts a blank before a value that is not
+// negative, so that it lines up with negative ones.
+void AppendThreeDecimals(std::string& line, double value, bool signed_blank = false);
+void AppendThreeDecimals(std::string& line, float value);
+void AppendRightAlignedFive(std::string& line, int32_t value);
+
 }  // namespace ovelt
