@@ -1,4 +1,13 @@
-// Gene flow and genetic differentiation on samples worked by hand.
+// Gene flow and genetic differentiation on samples worked by hand. The formulas these checks
+// follow, where other programs compute the same quantity:
+// - Snn as Hudson (2000): each sequence's nearest neighbours are all those at the least number
+//   of differences, tied ones weighted alike, and Snn the mean share found in the same population.
+// - Fst as Hudson, Slatkin and Maddison (1992), 1 - Hw/Hb with Hw the mean within-population
+//   pair distance (populations weighted alike) and Hb the mean between: written here as
+//   B/(B + W), which is the same number, and which can fall below 0.
+// - Gst as Nei (1973): (HT - HS)/HT of the haplotype frequencies, HS the mean of the
+//   populations' 1 - sum f^2 and HT that of the mean frequencies, populations weighted alike
+//   and no correction for sample size (Nei and Chesser's 1983 estimator would correct both).
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -218,6 +227,31 @@ TEST(GeneFlowSample, GapModes) {
 
 namespace ovelt {
 namespace {
+
+TEST(GeneFlowStatistics, ThreePopulationsByHand) {
+  // A: AA, AT; B: CA, CT, CT; C: AA, AT (sites 1 and 4). N = 7, w = 2/7, 3/7, 2/7.
+  ActiveData ad =
+      test::MakeAlignment({"AAAA", "AAAT", "CAAA", "CAAT", "CAAT", "AAAA", "AAAT"});
+  test::AddSet(ad, "A", {1, 2});
+  test::AddSet(ad, "B", {3, 4, 5});
+  test::AddSet(ad, "C", {6, 7});
+  const Differentiation s = RunFlow(ad).Overall.Stats;
+  // Within: H and K are 1, 2/3, 1: Hs = Ks = 6/7. All seven: H = (1 - 13/49) 7/6 = 6/7, so
+  // Hst = 0; the 21 distances sum to 24: Kt = 8/7 and Kst = 1/4.
+  EXPECT_NEAR(s.Hs, 6.0 / 7.0, 1e-15);
+  EXPECT_NEAR(s.Ks, 6.0 / 7.0, 1e-15);
+  EXPECT_NEAR(*s.Hst, 0.0, 1e-15);
+  EXPECT_NEAR(s.Total.K, 8.0 / 7.0, 1e-15);
+  EXPECT_NEAR(*s.Kst, 0.25, 1e-15);
+  // The 3 x 4 table of haplotypes AA, AT, CA, CT: 1.5 + 4 + 1.5 with 6 degrees of freedom.
+  EXPECT_NEAR(s.ChiSquare, 7.0, 1e-12);
+  EXPECT_EQ(s.Df, 6);
+  // Nei 1973 with the populations weighted alike: HS = 13/27, HT = 58/81.
+  EXPECT_NEAR(*s.Gst, 19.0 / 58.0, 1e-15);
+  // Hudson 2000: s1, s2, s6, s7 find their twins in the other population; s3's four nearest
+  // neighbours hold two of B; s4 and s5 find each other: Snn = 2.5/7.
+  EXPECT_NEAR(s.Snn, 2.5 / 7.0, 1e-15);
+}
 
 TEST(GeneFlowMatrix, PhylipAndMegaLowerTriangles) {
   // A, B as above and C a copy of A: Fst(A, B) = Fst(B, C) = 4/9. A and C: within 1 each,
