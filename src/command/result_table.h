@@ -1,8 +1,8 @@
 #pragma once
 // The table for scripts of a result (output/data_table.h), made from the same `Visit` that makes
-// its JSON (result_json.h): the array found at a dotted path of JSON keys ("sliding_window.windows")
-// becomes the rows, its elements' keys the columns, so that a column of the --grid file and a key
-// of the --json file are the same name for the same number.
+// its JSON (result_json.h): the array found at a dotted path of JSON keys
+// ("sliding_window.windows") becomes the rows, its elements' keys the columns, so that a column of
+// the --grid file and a key of the --json file are the same name for the same number.
 
 #include <cstdint>
 #include <optional>
@@ -25,9 +25,7 @@ class RowCells {
 
   void Integer(std::string_view key, int64_t value) { Add(key, value); }
   void Number(std::string_view key, double value) { Add(key, value); }
-  void Bool(std::string_view key, bool value) {
-    Add(key, std::string(value ? "true" : "false"));
-  }
+  void Bool(std::string_view key, bool value) { Add(key, std::string(value ? "true" : "false")); }
   void Text(std::string_view key, std::string_view value) { Add(key, std::string(value)); }
   void Optional(std::string_view key, const std::optional<double>& value) {
     Add(key, value ? DataCell(*value) : DataCell());

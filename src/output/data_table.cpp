@@ -34,7 +34,9 @@ struct CellVisitor {
 
 }  // namespace
 
-std::string CellText(const DataCell& cell) { return std::visit(CellVisitor{}, cell); }
+std::string CellText(const DataCell& cell) {
+  return std::visit(CellVisitor{}, cell);
+}
 
 std::string DataTableTsv(const DataTable& table) {
   std::string text;

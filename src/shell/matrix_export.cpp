@@ -11,11 +11,10 @@ std::string MatrixFormatTitle(MatrixFormat format) {
 bool ExportDistanceMatrix(Platform& platform, const GeneFlowResult& result,
                           const std::string& statistic, MatrixFormat format) {
   const bool phylip = format == MatrixFormat::kPhylip;
-  const auto path = platform.SaveFileName(
-      MatrixFormatTitle(format),
-      phylip ? "PHYLIP Format (*.phy)|*.phy|All Files (*.*)|*.*"
-             : "MEGA Format (*.meg)|*.meg|All Files (*.*)|*.*",
-      phylip ? "*.phy" : "*.meg");
+  const auto path = platform.SaveFileName(MatrixFormatTitle(format),
+                                          phylip ? "PHYLIP Format (*.phy)|*.phy|All Files (*.*)|*.*"
+                                                 : "MEGA Format (*.meg)|*.meg|All Files (*.*)|*.*",
+                                          phylip ? "*.phy" : "*.meg");
   if (!path || path->empty()) return false;
   const size_t slash = path->find_last_of("/\\");
   const std::string name = slash == std::string::npos ? *path : path->substr(slash + 1);

@@ -116,15 +116,13 @@ TEST(DnaDivergenceCli, NoNetSiteGivesZerosAndNoJukesCantor) {
 TEST(DnaDivergenceCli, EveryDistanceUndefinedSaysNotDetermined) {
   TempDir dir;
   // The two sequences of A differ at all four sites: 4d / 3L = 4/3, beyond Jukes and Cantor.
-  const std::string file =
-      dir.Write("far.fas", ">s1\nACGT\n>s2\nCATG\n>s3\nACGT\n>s4\nACGT\n");
+  const std::string file = dir.Write("far.fas", ">s1\nACGT\n>s2\nCATG\n>s3\nACGT\n>s4\nACGT\n");
   const auto r = RunOvelt(Sets({"dna-divergence", file, "--variances"}), dir.Path().string());
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_NE(r.out.find("   Nucleotide diversity with Jukes and Cantor, Pi(1)JC: not determined\n"),
             std::string::npos)
       << r.out;
-  EXPECT_NE(r.out.find("   Da with Jukes and Cantor, Da(JC): not determined\n"),
-            std::string::npos);
+  EXPECT_NE(r.out.find("   Da with Jukes and Cantor, Da(JC): not determined\n"), std::string::npos);
 }
 
 TEST(DnaDivergenceCli, OneSequenceInAPopulation) {
@@ -147,15 +145,15 @@ TEST(DnaDivergenceCli, EmptyPopulationsAreRefusedWithTheirWords) {
   TempDir dir;
   const std::string file =
       dir.Write("six.fas", ">s1\nACGT\n>s2\nACGA\n>s3\nTCGA\n>s4\nTCGA\n>s5\nTCGA\n");
-  const auto none = RunOvelt(Sets({"dna-divergence", file, "--exclude", "1-4"}),
-                             dir.Path().string());
+  const auto none =
+      RunOvelt(Sets({"dna-divergence", file, "--exclude", "1-4"}), dir.Path().string());
   EXPECT_EQ(none.status, 1);
   EXPECT_NE(none.err.find("There are 0 included sequences. Can't compute the DNA Divegence "
                           "between populations."),
             std::string::npos)
       << none.err;
-  const auto one = RunOvelt(Sets({"dna-divergence", file, "--exclude", "3-4"}),
-                            dir.Path().string());
+  const auto one =
+      RunOvelt(Sets({"dna-divergence", file, "--exclude", "3-4"}), dir.Path().string());
   EXPECT_EQ(one.status, 1);
   EXPECT_NE(one.err.find("There is only one population with included sequences. Can't compute "
                          "the DNA Divegence between populations."),
@@ -191,15 +189,15 @@ TEST(DnaDivergenceCli, SlidingWindowGridAndNoJukesCantorStep) {
 TEST(DnaDivergenceCli, TheSecondSetIsSet2EverywhereAndOutgroupStays) {
   TempDir dir;
   const std::string file = dir.Write("two.fas", kTwoPops);
-  const auto swapped = RunOvelt(Sets({"dna-divergence", file, "--set", "B", "--set2", "A"}),
-                                dir.Path().string());
+  const auto swapped =
+      RunOvelt(Sets({"dna-divergence", file, "--set", "B", "--set2", "A"}), dir.Path().string());
   ASSERT_EQ(swapped.status, 0) << swapped.err;
   EXPECT_NE(swapped.out.find(" Population 1: B\n"), std::string::npos);
   EXPECT_NE(swapped.out.find("   Nucleotide diversity, Pi(2): 0.25000\n"), std::string::npos);
-  const std::string five = dir.Write(
-      "five.fas", ">a\nACGTA\n>b\nACGTT\n>c\nACGAA\n>d\nTCGAA\n>o\nTCGAA\n");
-  const std::vector<std::string> base = {"fu-li-outgroup", five, "--set-def", "In=1-4",
-                                         "--set-def", "Out=5", "--set", "In"};
+  const std::string five =
+      dir.Write("five.fas", ">a\nACGTA\n>b\nACGTT\n>c\nACGAA\n>d\nTCGAA\n>o\nTCGAA\n");
+  const std::vector<std::string> base = {"fu-li-outgroup", five,    "--set-def", "In=1-4",
+                                         "--set-def",      "Out=5", "--set",     "In"};
   auto with = [&base](const std::string& flag) {
     std::vector<std::string> args = base;
     args.insert(args.end(), {flag, "Out"});

@@ -23,8 +23,8 @@ const char* const kTracts =
     ">q4\nAAAAAGAAAAAA\n>q5\nAAAAAGAAAAAA\n>q6\nAAAAAGAAAAAA\n";
 
 std::vector<std::string> Args(const std::string& file, std::vector<std::string> more) {
-  std::vector<std::string> args = {"gene-conversion", file, "--set-def", "P=1-3", "--set-def",
-                                   "Q=4-9"};
+  std::vector<std::string> args = {"gene-conversion", file,        "--set-def",
+                                   "P=1-3",           "--set-def", "Q=4-9"};
   args.insert(args.end(), more.begin(), more.end());
   return args;
 }
@@ -60,9 +60,8 @@ TEST(GeneConversionCli, ReportOfTheHandWorkedTracts) {
 TEST(GeneConversionCli, ThreeAndFiveSequencesAreEnoughThreeAndFourAreNot) {
   TempDir dir;
   const std::string file = dir.Write("tracts.fas", kTracts);
-  const auto enough = RunOvelt({"gene-conversion", file, "--set-def", "P=1-3", "--set-def",
-                                "Q=4-8"},
-                               dir.Path().string());
+  const auto enough = RunOvelt(
+      {"gene-conversion", file, "--set-def", "P=1-3", "--set-def", "Q=4-8"}, dir.Path().string());
   EXPECT_EQ(enough.status, 0) << enough.err;
   const auto few = RunOvelt({"gene-conversion", file, "--set-def", "P=1-3", "--set-def", "Q=4-7"},
                             dir.Path().string());
@@ -80,9 +79,9 @@ TEST(GeneConversionCli, PsiAlongASlidingWindowAndItsJson) {
   const std::string file = dir.Write("tracts.fas", kTracts);
   const std::string grid = dir.File("w.tsv");
   const std::string json = dir.File("r.json");
-  const auto r = RunOvelt(
-      Args(file, {"--sliding-window", "--window", "6", "--step", "6", "--grid", grid, "--json", json}),
-      dir.Path().string());
+  const auto r = RunOvelt(Args(file, {"--sliding-window", "--window", "6", "--step", "6", "--grid",
+                                      grid, "--json", json}),
+                          dir.Path().string());
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_NE(r.out.find(" Sliding Window Option\n"), std::string::npos) << r.out;
   const TsvTable t = TsvTable::Parse(ReadBytes(grid));

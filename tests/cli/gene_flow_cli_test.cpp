@@ -70,14 +70,14 @@ TEST(GeneFlowCli, PermutationTestRepeatsWithItsSeed) {
 TEST(GeneFlowCli, RefusalsOfTheDialogAndOfThePopulations) {
   TempDir dir;
   const std::string file = dir.Write("two.fas", kTwo);
-  const auto many = RunOvelt(Args(file, {"--permutation", "--replicates", "50001"}),
-                             dir.Path().string());
+  const auto many =
+      RunOvelt(Args(file, {"--permutation", "--replicates", "50001"}), dir.Path().string());
   EXPECT_EQ(many.status, 1);
   EXPECT_NE(many.err.find("In the present version the maximum number of replicates is 50000"),
             std::string::npos)
       << many.err;
-  const auto none = RunOvelt(Args(file, {"--permutation", "--replicates", "0"}),
-                             dir.Path().string());
+  const auto none =
+      RunOvelt(Args(file, {"--permutation", "--replicates", "0"}), dir.Path().string());
   EXPECT_NE(none.err.find("The minimum number of simulation replicates is 1"), std::string::npos);
   const auto one_set = RunOvelt(Args(file, {"--inactive-set", "B"}), dir.Path().string());
   EXPECT_EQ(one_set.status, 1);

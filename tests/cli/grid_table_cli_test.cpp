@@ -74,10 +74,10 @@ TEST_P(GridTableCli, ColumnsAndCellsAreTheJsonArray) {
 INSTANTIATE_TEST_SUITE_P(
     EveryGrid, GridTableCli,
     ::testing::Values(
-        GridCase{"PiTheta",
-                 {"dna-polymorphism", kExample, "--sliding-window", "--window", "100", "--step",
-                  "50"},
-                 {"sliding_window", "windows"}},
+        GridCase{
+            "PiTheta",
+            {"dna-polymorphism", kExample, "--sliding-window", "--window", "100", "--step", "50"},
+            {"sliding_window", "windows"}},
         GridCase{"GcContent",
                  {"dna-polymorphism", kExample, "--sliding-window", "--gc-content"},
                  {"gc_windows", "windows"}},
@@ -87,16 +87,15 @@ INSTANTIATE_TEST_SUITE_P(
         GridCase{"FuLi",
                  {"fu-li", kExample, "--sliding-window", "--window", "300", "--step", "150"},
                  {"sliding_window", "windows"}},
-        GridCase{"FuLiOutgroup",
-                 {"fu-li-outgroup", kExample, "--set-def", "In=1-10", "--set-def", "Out=11-12",
-                  "--set", "In", "--outgroup", "Out", "--sliding-window", "--window", "300",
-                  "--step", "100"},
-                 {"sliding_window", "windows"}},
+        GridCase{
+            "FuLiOutgroup",
+            {"fu-li-outgroup", kExample, "--set-def", "In=1-10", "--set-def", "Out=11-12", "--set",
+             "In", "--outgroup", "Out", "--sliding-window", "--window", "300", "--step", "100"},
+            {"sliding_window", "windows"}},
         GridCase{"Mismatch", {"population-size-changes", kExample, "--kind", "12"}, {"table"}},
         GridCase{"Spectrum", {"population-size-changes", kExample, "--kind", "21"}, {"table"}},
-        GridCase{"SegregatingTime",
-                 {"population-size-changes", kExample, "--kind", "22"},
-                 {"table"}},
+        GridCase{
+            "SegregatingTime", {"population-size-changes", kExample, "--kind", "22"}, {"table"}},
         GridCase{"MultiDomain",
                  {"multidomain", kExample, "--domain", "A=1-450;B=451-900", "--set-def", "P=1-6",
                   "--set-def", "Q=7-12"},
@@ -127,8 +126,8 @@ TEST(GridTableCliData, SitesNameTheirClasses) {
   const std::string grid = dir.File("sites.tsv");
   ASSERT_EQ(RunOvelt({"sites", file, "--grid", grid}, dir.Path().string()).status, 0);
   const TsvTable tsv = TsvTable::Parse(ReadBytes(grid));
-  EXPECT_EQ(tsv.Keys, (std::vector<std::string>{"site", "site_class", "diversity",
-                                                "codon_position", "coding_flag"}));
+  EXPECT_EQ(tsv.Keys, (std::vector<std::string>{"site", "site_class", "diversity", "codon_position",
+                                                "coding_flag"}));
   ASSERT_EQ(tsv.Rows.size(), 5u);
   EXPECT_EQ(tsv.Cell(0, "site_class"), "parsimony informative");
   EXPECT_EQ(tsv.Cell(1, "site_class"), "monomorphic");

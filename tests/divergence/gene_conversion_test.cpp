@@ -110,8 +110,7 @@ TEST(ConversionPsi, TractLinesOfBothPopulationsJoinTheirOwnCommonNucleotide) {
   // (C) in a tract. Starred, population 1 is C five times and population 2 A five times: each
   // nucleotide counts from its side with a = 1/5: Psi = (1 + 1) / 2. Had both stars gone to one
   // population, or none been set, the site would give less.
-  const auto sel =
-      test::TwoPopulations({"A", "C", "C", "C", "C"}, {"A", "C", "A", "A", "A"});
+  const auto sel = test::TwoPopulations({"A", "C", "C", "C", "C"}, {"A", "C", "A", "A", "A"});
   std::vector<double> psi(2, -1.0);
   TractPsiPass(sel, {{1, 1, 1}, {2, 2, 1}}, psi);
   EXPECT_DOUBLE_EQ(psi[1], 1.0);
@@ -125,8 +124,8 @@ TEST(ConversionPsi, TheCommonNucleotideOfATieIsTheFirstOfATCG) {
   // stars join A, the first of A, T, C, G. Population 1 is T six times. With A four times in
   // population 2, A counts from there (a = 1/6, b = 4/6): Psi = (4/6) / 2. Had the stars joined
   // T, A would be 2/6 < 3a and Psi 0.
-  const auto sel = test::TwoPopulations({"T", "T", "T", "T", "T", "T"},
-                                        {"A", "A", "T", "T", "G", "G"});
+  const auto sel =
+      test::TwoPopulations({"T", "T", "T", "T", "T", "T"}, {"A", "A", "T", "T", "G", "G"});
   std::vector<double> psi(2, -1.0);
   TractPsiPass(sel, {{2, 5, 1}, {2, 6, 1}}, psi);
   EXPECT_DOUBLE_EQ(psi[1], 1.0 / 3.0);

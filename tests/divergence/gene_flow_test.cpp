@@ -67,8 +67,8 @@ TEST(GeneFlowStatistics, TwoPopulationsByHand) {
   EXPECT_NEAR(*s.Hst, 1.0 - 0.8 / 0.9, 1e-12);
   EXPECT_NEAR(*s.Kst, 1.0 - 0.8 / 1.2, 1e-12);
   EXPECT_DOUBLE_EQ(s.KsLog, 0.8 * std::log(2.0));
-  EXPECT_NEAR(*s.KstLog,
-              1.0 - 0.8 * std::log(2.0) / ((6 * std::log(2.0) + 3 * std::log(3.0)) / 10), 1e-12);
+  EXPECT_NEAR(*s.KstLog, 1.0 - 0.8 * std::log(2.0) / ((6 * std::log(2.0) + 3 * std::log(3.0)) / 10),
+              1e-12);
   // Ranks: d = 0 once (rank 1), d = 1 six times (ranks 2-7: 4.5), d = 2 three times (9).
   EXPECT_DOUBLE_EQ(s.Zs, 0.4 * 4.5 + 0.6 * (4.5 + 4.5 + 1.0) / 3.0);
   EXPECT_DOUBLE_EQ(s.Total.Z, 5.5);
@@ -130,8 +130,7 @@ TEST(GeneFlowPermutation, ManyReplicatesApproachTheExactP) {
       exact[5] += v[5] >= value[5] ? 0.1 : 0.0;
     }
   FlowRandom random(7);
-  const TestedValues p =
-      PermutationTest(u, {0, 1, 2, 3, 4}, {2, 3}, value, 20000, random);
+  const TestedValues p = PermutationTest(u, {0, 1, 2, 3, 4}, {2, 3}, value, 20000, random);
   for (size_t i = 0; i < p.size(); ++i) EXPECT_NEAR(p[i], exact[i], 0.015) << i;
 }
 
@@ -230,8 +229,7 @@ namespace {
 
 TEST(GeneFlowStatistics, ThreePopulationsByHand) {
   // A: AA, AT; B: CA, CT, CT; C: AA, AT (sites 1 and 4). N = 7, w = 2/7, 3/7, 2/7.
-  ActiveData ad =
-      test::MakeAlignment({"AAAA", "AAAT", "CAAA", "CAAT", "CAAT", "AAAA", "AAAT"});
+  ActiveData ad = test::MakeAlignment({"AAAA", "AAAT", "CAAA", "CAAT", "CAAT", "AAAA", "AAAT"});
   test::AddSet(ad, "A", {1, 2});
   test::AddSet(ad, "B", {3, 4, 5});
   test::AddSet(ad, "C", {6, 7});
@@ -257,13 +255,11 @@ TEST(GeneFlowMatrix, PhylipAndMegaLowerTriangles) {
   // A, B as above and C a copy of A: Fst(A, B) = Fst(B, C) = 4/9. A and C: within 1 each,
   // between (0 + 1 + 1 + 0)/4 = 1/2, so B = 1/2 - 1 and Fst = B/(B + W) = -1 (Hudson's
   // 1 - Hw/Hb = 1 - 2); Kxy(A, C) = 1/2.
-  ActiveData ad =
-      test::MakeAlignment({"AAAA", "AAAT", "CAAA", "CAAT", "CAAT", "AAAA", "AAAT"});
+  ActiveData ad = test::MakeAlignment({"AAAA", "AAAT", "CAAA", "CAAT", "CAAT", "AAAA", "AAAT"});
   test::AddSet(ad, "A", {1, 2});
   test::AddSet(ad, "B", {3, 4, 5});
   test::AddSet(ad, "Pop C", {6, 7});
-  const GeneFlowResult r =
-      ComputeGeneFlow(SampleOf(ad), ad.FilePath, 1, 4, 0, 1, 4.0);
+  const GeneFlowResult r = ComputeGeneFlow(SampleOf(ad), ad.FilePath, 1, 4, 0, 1, 4.0);
   EXPECT_EQ(DistanceMatrixText(r, "Fst", MatrixFormat::kPhylip, "x.phy"),
             "    3\r\n"
             "A         \r\n"

@@ -65,7 +65,8 @@ struct Result {
 TEST(ResultTable, TheArrayAtTheEndOfThePath) {
   Result result;
   result.Other = {Row{99, 1.0, "x", {}, {}}};
-  result.Sliding = Windows{4, {Row{1, -0.5, "*", {0.1, 0.2}, Spread{3, 4}}, Row{5, {}, "", {}, {}}}};
+  result.Sliding =
+      Windows{4, {Row{1, -0.5, "*", {0.1, 0.2}, Spread{3, 4}}, Row{5, {}, "", {}, {}}}};
   const DataTable table = ResultArrayTable(result, "sliding_window.windows");
   EXPECT_EQ(table.Keys, (std::vector<std::string>{"start", "d", "mark", "range.low", "range.high",
                                                   "low", "high"}));

@@ -40,7 +40,8 @@ CommandReport Report(const LinkageResult& result, const Selection& sel, const Li
   report.Grid1.ColumnTitles = LinkageGridTitles(result.Tests());
   report.GridArray = "site_pairs";
   report.Grid1.Rows.reserve(static_cast<size_t>(rows));
-  for (const LinkagePairRow& row : result.Pairs()) report.Grid1.Rows.push_back(LinkageGridCells(row));
+  for (const LinkagePairRow& row : result.Pairs())
+    report.Grid1.Rows.push_back(LinkageGridCells(row));
   report.ShowKinds = {kResultAddGraph, kResultTextAndGrid};
   return report;
 }

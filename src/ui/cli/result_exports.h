@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/platform.h"
 #include "command/command_entry.h"
+#include "platform/platform.h"
 #include "shell/command_runner.h"
 
 namespace ovelt {

@@ -11,7 +11,8 @@ namespace ovelt {
 SelectStatisticDialog::SelectStatisticDialog(QWidget* parent)
     : QDialog(parent), statistic_(new QComboBox), format_(new QComboBox) {
   setWindowTitle("Select Statistic");
-  for (const std::string& name : MatrixStatistics()) statistic_->addItem(QString::fromStdString(name));
+  for (const std::string& name : MatrixStatistics())
+    statistic_->addItem(QString::fromStdString(name));
   statistic_->setCurrentText("Fst");
   format_->addItem(QString::fromStdString(MatrixFormatTitle(MatrixFormat::kPhylip)));
   format_->addItem(QString::fromStdString(MatrixFormatTitle(MatrixFormat::kMega)));

@@ -23,7 +23,8 @@ NeiGojoboriCount NeiGojoboriPair(int a, int b, const GeneticCodeTable& code) {
 
 NeiGojoboriTable::NeiGojoboriTable(const GeneticCodeTable& code) {
   for (int a = 1; a <= 64; ++a)
-    for (int b = 1; b <= 64; ++b) counts_[static_cast<size_t>(a * 65 + b)] = NeiGojoboriPair(a, b, code);
+    for (int b = 1; b <= 64; ++b)
+      counts_[static_cast<size_t>(a * 65 + b)] = NeiGojoboriPair(a, b, code);
 }
 
 }  // namespace ovelt

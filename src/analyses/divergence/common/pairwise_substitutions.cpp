@@ -13,7 +13,7 @@ namespace {
 // the values met in ascending order, and the members of each, ascending.
 struct ColumnGroups {
   std::vector<int> Values;
-  std::vector<size_t> Start;        // members of group g: Members[Start[g] .. Start[g + 1])
+  std::vector<size_t> Start;  // members of group g: Members[Start[g] .. Start[g + 1])
   std::vector<int32_t> Members;
 
   void Build(const std::vector<uint8_t>& value_of, int32_t seqs) {
@@ -29,7 +29,8 @@ struct ColumnGroups {
       Start.push_back(Start.back() + static_cast<size_t>(count[v]));
     }
     Members.resize(static_cast<size_t>(seqs));
-    for (int32_t seq = 1; seq <= seqs; ++seq) Members[slot[value_of[static_cast<size_t>(seq)]]++] = seq;
+    for (int32_t seq = 1; seq <= seqs; ++seq)
+      Members[slot[value_of[static_cast<size_t>(seq)]]++] = seq;
   }
 };
 

@@ -60,7 +60,9 @@ Codes NetworkCodes(const ClassifiedPair& x, const ClassifiedPair& y) {
   return codes;
 }
 
-int SumOf(const Codes& codes) { return codes[0] + codes[1] + codes[2]; }
+int SumOf(const Codes& codes) {
+  return codes[0] + codes[1] + codes[2];
+}
 
 }  // namespace
 
@@ -85,8 +87,8 @@ std::array<int16_t, 3> ClassifyDistinctCodons(const std::vector<int>& codons,
       for (size_t p = 0; p < 3; ++p) pair_count[p] += d.At[p] ? 1 : 0;
     }
   }
-  const int varying = static_cast<int>(std::count_if(pair_count.begin(), pair_count.end(),
-                                                     [](int c) { return c > 0; }));
+  const int varying = static_cast<int>(
+      std::count_if(pair_count.begin(), pair_count.end(), [](int c) { return c > 0; }));
   auto classify = [&](const CodonPair& pair) {
     return ClassifyCodonPair(codons[pair.First], codons[pair.Second], code, rules, stop_found);
   };
@@ -235,7 +237,8 @@ SiteChangeCodes ClassifyCodonColumns(const CodonColumns& columns,
       set_all(kCodeInvariant);
       continue;
     }
-    const std::array<int16_t, 3> raw = ClassifyDistinctCodons(codons, code, rules, result.StopFound);
+    const std::array<int16_t, 3> raw =
+        ClassifyDistinctCodons(codons, code, rules, result.StopFound);
     const std::array<int, 3> variants = VariantsOf(codons);
     bool complex = false;
     for (size_t p = 0; p < 3; ++p) {

@@ -8,7 +8,9 @@ namespace ovelt {
 namespace {
 
 // A value in "0.00000" right-aligned in the field " 0.00000", so that a negative Da lines up.
-std::string ValueCell(double value) { return Format(Format(value, "0.00000"), "@@@@@@@@"); }
+std::string ValueCell(double value) {
+  return Format(Format(value, "0.00000"), "@@@@@@@@");
+}
 
 }  // namespace
 
@@ -17,8 +19,9 @@ std::vector<std::string> DivergenceGridTitles() {
 }
 
 std::vector<std::string> DivergenceGridRow(const DivergenceWindow& row) {
-  return {WindowCell(row.Window), Format(row.Window.Midpoint, "@@@@@"), ValueCell(row.Pi1),
-          ValueCell(row.Pi2),     ValueCell(row.Dxy),                   ValueCell(row.Da)};
+  return {WindowCell(row.Window), Format(row.Window.Midpoint, "@@@@@"),
+          ValueCell(row.Pi1),     ValueCell(row.Pi2),
+          ValueCell(row.Dxy),     ValueCell(row.Da)};
 }
 
 GraphData DivergenceGraph(const DivergenceWindows& windows) {

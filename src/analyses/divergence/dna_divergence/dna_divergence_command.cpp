@@ -39,8 +39,8 @@ Selection Select(const ActiveData& data, const DnaDivergenceOptions& options) {
 // report stands.
 void AddJukesCantor(DnaDivergenceResult& r, const Selection& sel, const Progress& progress) {
   try {
-    r.JukesCantor = ComputeDivergenceJukesCantor(sel, r.SiteDxy, r.RegionFrom, r.RegionTo,
-                                                 r.Sums.L, progress);
+    r.JukesCantor =
+        ComputeDivergenceJukesCantor(sel, r.SiteDxy, r.RegionFrom, r.RegionTo, r.Sums.L, progress);
     r.Variances = ComputeDivergenceVariances(*r.JukesCantor, progress);
     // The pair matrices served the variances; the report reads only the means.
     r.JukesCantor->PairJC1 = {};
@@ -72,8 +72,8 @@ DnaDivergenceResult Compute(const Selection& sel, const DnaDivergenceOptions& op
   if (const auto geometry = RunWindow(options, sel.data())) {
     progress.Say(kWindowWords);
     try {
-      r.Windows = ComputeDivergenceWindows(sel, r.SiteDxy, r.RegionFrom, r.RegionTo, *geometry,
-                                           progress);
+      r.Windows =
+          ComputeDivergenceWindows(sel, r.SiteDxy, r.RegionFrom, r.RegionTo, *geometry, progress);
     } catch (const std::exception&) {
       Fail(kWindowError);
     }

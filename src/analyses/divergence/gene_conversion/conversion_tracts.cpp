@@ -19,7 +19,12 @@ class LineWalk {
   LineWalk(const Selection& sel, const std::vector<uint8_t>& informative,
            const std::vector<SiteCounts>& counts, int32_t from, int32_t to,
            std::vector<double>& psi, TractScan& scan)
-      : sel_(sel), informative_(informative), counts_(counts), from_(from), to_(to), psi_(psi),
+      : sel_(sel),
+        informative_(informative),
+        counts_(counts),
+        from_(from),
+        to_(to),
+        psi_(psi),
         scan_(scan) {}
 
   void Walk(int16_t population, int32_t line) {
@@ -32,7 +37,8 @@ class LineWalk {
       if (informative_[at] != 0) {
         const int j = NucleotideIndex(own.at(site, line));
         const SiteCounts& c = counts_[static_cast<size_t>(site - from_)];
-        const int32_t in_own = j < 0 ? 0 : (population == 1 ? c.Own1 : c.Own2)[static_cast<size_t>(j)];
+        const int32_t in_own =
+            j < 0 ? 0 : (population == 1 ? c.Own1 : c.Own2)[static_cast<size_t>(j)];
         const int32_t in_other =
             j < 0 ? 0 : (population == 1 ? c.Own2 : c.Own1)[static_cast<size_t>(j)];
         const double x = in_own / n_own;

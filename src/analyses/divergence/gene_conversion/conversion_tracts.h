@@ -33,15 +33,14 @@ struct ConversionTract {
 };
 
 struct TractScan {
-  std::vector<TractSite> Sites;  // sorted by site; equal sites keep their order of discovery
+  std::vector<TractSite> Sites;         // sorted by site; equal sites keep their order of discovery
   std::vector<ConversionTract> Tracts;  // in order of discovery
 };
 
 // Over from..to; `informative` from `MarkInformativeSites`. `psi_by_site` (one value per site of
 // the file) gets -1 at every site of a tract, held for the second pass of Psi.
 [[nodiscard]] TractScan FindConversionTracts(const Selection& sel,
-                                             const std::vector<uint8_t>& informative,
-                                             int32_t from, int32_t to,
-                                             std::vector<double>& psi_by_site);
+                                             const std::vector<uint8_t>& informative, int32_t from,
+                                             int32_t to, std::vector<double>& psi_by_site);
 
 }  // namespace ovelt

@@ -8,7 +8,9 @@ namespace ovelt {
 
 namespace {
 
-std::string Line(const std::string& text) { return text + kCrLf; }
+std::string Line(const std::string& text) {
+  return text + kCrLf;
+}
 
 }  // namespace
 
@@ -34,26 +36,31 @@ std::string GeneConversionReport(const GeneConversionResult& r) {
   for (const ConversionTract& tract : r.Tracts) {
     if (tract.First < r.RegionFrom || tract.Last > r.RegionTo) continue;
     t += Line("     Line: " + r.LineName(tract) + " (population " +
-              std::to_string(tract.Population) + ")" + ". Tract located between sites: " +
-              StrNum(tract.First) + "-" + StrNum(tract.Last));
+              std::to_string(tract.Population) + ")" +
+              ". Tract located between sites: " + StrNum(tract.First) + "-" + StrNum(tract.Last));
     t += Line("           Nucleotide distance (excluding gaps): " + StrNum(tract.NetLength));
   }
   return t;
 }
 
-std::vector<std::string> InformativeSiteTitles() { return {"Site", "Psi"}; }
+std::vector<std::string> InformativeSiteTitles() {
+  return {"Site", "Psi"};
+}
 
 std::vector<std::string> InformativeSiteRow(const InformativeSite& row) {
   return {Format(row.Site, "@@@@@"), Format(row.Psi, "0.00000")};
 }
 
-std::string InformativeSiteTextHead() { return " Site      Psi"; }
+std::string InformativeSiteTextHead() {
+  return " Site      Psi";
+}
 
-std::vector<std::string> ConversionWindowTitles() { return {"Window", "Midpoint", "Psi"}; }
+std::vector<std::string> ConversionWindowTitles() {
+  return {"Window", "Midpoint", "Psi"};
+}
 
 std::vector<std::string> ConversionWindowRow(const ConversionWindow& row) {
-  return {WindowCell(row.Window), Format(row.Window.Midpoint, "@@@@@"),
-          Format(row.Psi, "0.00000")};
+  return {WindowCell(row.Window), Format(row.Window.Midpoint, "@@@@@"), Format(row.Psi, "0.00000")};
 }
 
 GraphData ConversionGraph(const ConversionWindows& windows) {

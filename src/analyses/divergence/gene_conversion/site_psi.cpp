@@ -6,8 +6,7 @@ namespace {
 
 // The b of one direction: the frequency at home of a nucleotide that would be rare abroad.
 double Counted(int32_t home, int32_t n_home, int32_t abroad, int32_t n_abroad) {
-  const double a =
-      (static_cast<double>(abroad) / n_abroad * (n_abroad - 1) + 1) / n_abroad;
+  const double a = (static_cast<double>(abroad) / n_abroad * (n_abroad - 1) + 1) / n_abroad;
   const double b = static_cast<double>(home) / n_home;
   return a <= 0.2 && b >= 3 * a ? b : 0.0;
 }

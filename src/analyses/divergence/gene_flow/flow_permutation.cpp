@@ -17,8 +17,9 @@ TestedValues PermutationTest(const FlowUniverse& u, std::vector<int32_t> sequenc
     }
     size_t next = 0;
     for (size_t g = 0; g < sizes.size(); ++g) {
-      members.assign(sequences.begin() + static_cast<std::ptrdiff_t>(next),
-                     sequences.begin() + static_cast<std::ptrdiff_t>(next + static_cast<size_t>(sizes[g])));
+      members.assign(
+          sequences.begin() + static_cast<std::ptrdiff_t>(next),
+          sequences.begin() + static_cast<std::ptrdiff_t>(next + static_cast<size_t>(sizes[g])));
       next += static_cast<size_t>(sizes[g]);
       groups[g] = CountHaplotypes(*u.Tables, members);
     }

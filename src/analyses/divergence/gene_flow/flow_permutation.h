@@ -29,8 +29,7 @@ struct FlowRandom {
 
 // P of Hs, Ks, Ks*, Zs, Zs*, Snn over `replicates` shuffles of `sequences` (the universe's,
 // population after population, `sizes` each).
-[[nodiscard]] TestedValues PermutationTest(const FlowUniverse& u,
-                                           std::vector<int32_t> sequences,
+[[nodiscard]] TestedValues PermutationTest(const FlowUniverse& u, std::vector<int32_t> sequences,
                                            const std::vector<int32_t>& sizes,
                                            const TestedValues& observed, int32_t replicates,
                                            FlowRandom& random);

@@ -47,7 +47,9 @@ std::pair<double, double> BetweenSum(const FlowTables& t, const HaplotypeCounts&
   return {sum, pairs};
 }
 
-double Mean(const std::pair<double, double>& s) { return s.second > 0 ? s.first / s.second : 0.0; }
+double Mean(const std::pair<double, double>& s) {
+  return s.second > 0 ? s.first / s.second : 0.0;
+}
 
 int32_t SizeOf(const HaplotypeCounts& g) {
   int32_t n = 0;
@@ -58,7 +60,8 @@ int32_t SizeOf(const HaplotypeCounts& g) {
 double Diversity(const HaplotypeCounts& g, int32_t n) {
   if (n < 2) return 0.0;
   double squares = 0.0;
-  for (const auto& [h, c] : g) squares += (static_cast<double>(c) / n) * (static_cast<double>(c) / n);
+  for (const auto& [h, c] : g)
+    squares += (static_cast<double>(c) / n) * (static_cast<double>(c) / n);
   return (1.0 - squares) * n / (n - 1.0);
 }
 

@@ -30,8 +30,7 @@ struct FlowUniverse {
 };
 
 [[nodiscard]] FlowUniverse MakeUniverse(const FlowTables& tables,
-                                        const std::vector<HaplotypeCounts>& groups,
-                                        int32_t sites);
+                                        const std::vector<HaplotypeCounts>& groups, int32_t sites);
 
 // The counts of the haplotypes of some sequences, by haplotype.
 [[nodiscard]] HaplotypeCounts CountHaplotypes(const FlowTables& tables,
@@ -42,8 +41,8 @@ struct GroupMeans {
   int32_t N = 0;
   int32_t Haplotypes = 0;
   double H = 0.0, K = 0.0, KLog = 0.0, Z = 0.0, ZLog = 0.0;
-  double Pi = 0.0;               // K / L
-  std::optional<double> PiJC;    // mean Jukes and Cantor distance of the pairs that have one
+  double Pi = 0.0;             // K / L
+  std::optional<double> PiJC;  // mean Jukes and Cantor distance of the pairs that have one
 };
 // Without `jukes_cantor` PiJC is left out (a replicate of the permutation test needs none).
 [[nodiscard]] GroupMeans MeansOf(const FlowUniverse& u, const HaplotypeCounts& group,

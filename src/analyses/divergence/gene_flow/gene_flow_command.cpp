@@ -36,11 +36,10 @@ GeneFlowResult Compute(const Selection& sel, const GeneFlowOptions& options,
                                     sel.Region.RegionTo, options.GapMode);
   if (const auto* refusal = std::get_if<std::string>(&sample)) Refuse(*refusal);
   try {
-    return ComputeGeneFlow(std::get<GeneFlowSample>(sample), data.FilePath,
-                           sel.Region.RegionFrom, sel.Region.RegionTo,
-                           options.Permutation ? options.Replicates : 0, options.Seed,
-                           NmDivisor(data.Format.ChromosomalLocation, data.Format.GenomeState),
-                           progress);
+    return ComputeGeneFlow(
+        std::get<GeneFlowSample>(sample), data.FilePath, sel.Region.RegionFrom, sel.Region.RegionTo,
+        options.Permutation ? options.Replicates : 0, options.Seed,
+        NmDivisor(data.Format.ChromosomalLocation, data.Format.GenomeState), progress);
   } catch (const std::bad_alloc&) {
     Fail(kOutOfMemory);
   }

@@ -126,9 +126,7 @@ void FlowEstimates::Visit(V& v) const {
   v.Optional("gamma_st", s.GammaSt);
   v.Number("nst", s.Nst);
   v.Number("fst", s.Fst);
-  const auto p = [this](size_t i) {
-    return P ? std::optional<double>((*P)[i]) : std::nullopt;
-  };
+  const auto p = [this](size_t i) { return P ? std::optional<double>((*P)[i]) : std::nullopt; };
   v.Optional("p_hs", p(0));
   v.Optional("p_ks", p(1));
   v.Optional("p_ks_star", p(2));
@@ -138,9 +136,9 @@ void FlowEstimates::Visit(V& v) const {
 }
 
 [[nodiscard]] GeneFlowResult ComputeGeneFlow(const GeneFlowSample& sample,
-                                             const std::string& file_path, int32_t from,
-                                             int32_t to, int32_t replicates, int32_t seed,
-                                             double nm_divisor, const Progress& progress = {});
+                                             const std::string& file_path, int32_t from, int32_t to,
+                                             int32_t replicates, int32_t seed, double nm_divisor,
+                                             const Progress& progress = {});
 
 // 1 for Y or W chromosomes, 3 for X or Z, otherwise 2 haploid and 4 diploid.
 [[nodiscard]] double NmDivisor(int16_t chromosomal_location, int16_t genome_state);

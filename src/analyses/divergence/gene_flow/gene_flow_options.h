@@ -23,12 +23,12 @@ struct GeneFlowOptions {
   template <class V>
   void Visit(V& v) {
     v.Region(RegionFrom, RegionTo);
-    v.Choice(GapMode,
-             {"gaps", "Sites with Alignment Gaps are...",
-              "How sites with alignment gaps are treated"},
-             {"excluded", "excluded only in pairwise comparisons",
-              "considered (gap as the fifth state)"},
-             1);
+    v.Choice(
+        GapMode,
+        {"gaps", "Sites with Alignment Gaps are...", "How sites with alignment gaps are treated"},
+        {"excluded", "excluded only in pairwise comparisons",
+         "considered (gap as the fifth state)"},
+        1);
     v.Flag(Permutation, {"permutation", "Permutation test",
                          "Test the differentiation statistics by permuting the sequences"});
     v.Integer(Replicates,

@@ -7,7 +7,9 @@ namespace ovelt {
 
 namespace {
 
-std::string Line(const std::string& text) { return text + kCrLf; }
+std::string Line(const std::string& text) {
+  return text + kCrLf;
+}
 
 std::string Value(const std::optional<double>& x) {
   return x ? Format(*x, "0.00000") : std::string("n.d.");
@@ -59,20 +61,22 @@ std::string GeneFlowReport(const GeneFlowResult& r) {
   const Differentiation& s = r.Overall.Stats;
   std::string t = kCrLf;
   t += Line(" Input Data File: " + r.FilePath);
-  t += Line(" Number of Populations Included: " + StrNum(static_cast<int64_t>(r.Populations.size())));
+  t += Line(" Number of Populations Included: " +
+            StrNum(static_cast<int64_t>(r.Populations.size())));
   t += Line(" Selected region: " + StrNum(r.RegionFrom) + "-" + StrNum(r.RegionTo));
   t += Line("     Number of sites: " + StrNum(r.RegionTo - r.RegionFrom + 1));
   t += Line(" Sites with alignment gaps are: " + GapModeText(r.GapMode));
   if (r.GapMode == 1) t += Line(" Total sites (excluding alignment gaps): " + StrNum(r.Sites));
-  if (r.GapsExcludedInFile) t += Line("    Sites with gaps in the complete data file were excluded");
+  if (r.GapsExcludedInFile)
+    t += Line("    Sites with gaps in the complete data file were excluded");
   for (size_t i = 0; i < r.Populations.size(); ++i) {
     t += Line(" Population " + std::to_string(i + 1) + ": " + r.Populations[i].Name);
-    t += PopulationLines(r.Populations[i], "   Average number of differences, K: ",
-                         "   Nucleotide diversity, Pi: ");
+    t += PopulationLines(r.Populations[i],
+                         "   Average number of differences, K: ", "   Nucleotide diversity, Pi: ");
   }
   t += Line(" Total Data Estimates");
-  t += PopulationLines(r.Total, "   Average number of nucleotide differences, K: ",
-                       "   Nucleotide diversity, Pi: ");
+  t += PopulationLines(
+      r.Total, "   Average number of nucleotide differences, K: ", "   Nucleotide diversity, Pi: ");
   t += kCrLf;
   t += Line(" =========== Genetic Differentiation Estimates ==========");
   t += Line("  ns, not significant;  *, 0.01<P<0.05;  **, 0.001<P<0.01;  ***, P<0.001");
@@ -103,8 +107,8 @@ std::string GeneFlowReport(const GeneFlowResult& r) {
   t += Line("        Gst: " + Value(s.Gst) + NmText(r.Nm(s.Gst)));
   t += Line("  Sequence Data Information");
   t += Line("     Nei 1982");
-  t += Line("        DeltaSt: " + Format(s.DeltaSt, "0.00000") + "    " + "    GammaSt: " +
-            Value(s.GammaSt) + NmText(r.Nm(s.GammaSt)));
+  t += Line("        DeltaSt: " + Format(s.DeltaSt, "0.00000") + "    " +
+            "    GammaSt: " + Value(s.GammaSt) + NmText(r.Nm(s.GammaSt)));
   t += Line("     Lynch and Crease 1990  (with Jukes and Cantor correction)");
   t += Line("        Nst: " + Format(s.Nst, "0.00000"));
   t += Line("     Hudson, Slatkin and Maddison 1992");
@@ -120,11 +124,11 @@ std::vector<std::string> GeneFlowPairTitles() {
 namespace {
 
 std::vector<std::string> PairValues(const Differentiation& s) {
-  return {Format(s.Hs, "0.00000"),  Format(s.Ks, "0.00000"),
-          Format(s.Kxy, "0.00000"), Format(s.Gst.value_or(0.0), "0.00000"),
+  return {Format(s.Hs, "0.00000"),      Format(s.Ks, "0.00000"),
+          Format(s.Kxy, "0.00000"),     Format(s.Gst.value_or(0.0), "0.00000"),
           Format(s.DeltaSt, "0.00000"), Format(s.GammaSt.value_or(0.0), "0.00000"),
-          Format(s.Nst, "0.00000"), Format(s.Fst, "0.00000"),
-          Format(s.Dxy, "0.00000"), Format(s.Da, "0.00000")};
+          Format(s.Nst, "0.00000"),     Format(s.Fst, "0.00000"),
+          Format(s.Dxy, "0.00000"),     Format(s.Da, "0.00000")};
 }
 
 }  // namespace

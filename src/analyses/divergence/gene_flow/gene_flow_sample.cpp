@@ -4,7 +4,9 @@ namespace ovelt {
 
 namespace {
 
-std::string Message(const std::string& head) { return head + kGeneFlowTail; }
+std::string Message(const std::string& head) {
+  return head + kGeneFlowTail;
+}
 
 }  // namespace
 

@@ -29,7 +29,7 @@ struct GeneFlowSample {
   std::vector<std::string> Names;      // of the sequences, 20-character fields
   std::vector<std::string> Sequences;  // the varying sites only
   int16_t GapMode = 1;
-  int32_t Sites = 0;             // L: the sites of the region kept by the gap mode
+  int32_t Sites = 0;  // L: the sites of the region kept by the gap mode
   bool GapsExcludedInFile = false;
 
   [[nodiscard]] int32_t Total() const { return static_cast<int32_t>(Sequences.size()); }

@@ -55,7 +55,8 @@ CommandReport Report(const SynonymousResult& result, const Selection& sel,
   report.GridArray = "pair_table";
   report.Grid1.Rows.reserve(static_cast<size_t>(rows));
   for (int32_t i = 1; i < n; ++i)
-    for (int32_t j = i + 1; j <= n; ++j) report.Grid1.Rows.push_back(SynonymousPairCells(result, i, j));
+    for (int32_t j = i + 1; j <= n; ++j)
+      report.Grid1.Rows.push_back(SynonymousPairCells(result, i, j));
   report.ShowKinds = {kResultTextAndGrid};
   return report;
 }
