@@ -61,21 +61,9 @@ TEST(DivergenceVariances, CovarianceOfTwoAgainstOneByHand) {
   EXPECT_DOUBLE_EQ(CovarianceWithin(PairMatrix(1, 1), d, 0.0, 0.625, true), 0.0);
 }
 
-// Plain twins through the row and column sums: A = sum_i (row sum of d1)^2 (the diagonal is 0),
-// T1 = sum_j (column sum of d)^2, T2 = sum_i (row sum of d)^2, C1 = sum_i (row sum of d1)(row
-// sum of d).
-double RowSum(const PairMatrix& m, int32_t i) {
-  double s = 0;
-  for (int32_t j = 1; j <= m.Columns(); ++j) s += m.At(i, j);
-  return s;
-}
-double ColumnSum(const PairMatrix& m, int32_t j) {
-  double s = 0;
-  for (int32_t i = 1; i <= m.Rows(); ++i) s += m.At(i, j);
-  return s;
-}
-
-TEST(DivergenceVariances, EqualTheRowSumFormsOnRandomTables) {
+// Plain twins: the sums of the variances written as their triple loops, term by term (the
+// program folds them into row and column sums).
+TEST(DivergenceVariances, EqualTheTripleSumsOnRandomTables) {
   std::mt19937 rng(31415);
   for (int round = 0; round < 20; ++round) {
     const int32_t n1 = 2 + round % 6;
@@ -88,7 +76,9 @@ TEST(DivergenceVariances, EqualTheRowSumFormsOnRandomTables) {
 
     double a = 0, b = 0;
     for (int32_t i = 1; i <= n1; ++i) {
-      a += RowSum(d1, i) * RowSum(d1, i);
+      for (int32_t j = 1; j <= n1; ++j)
+        for (int32_t m = 1; m <= n1; ++m)
+          if (j != i && m != i) a += static_cast<double>(d1.At(i, j)) * d1.At(i, m);
       for (int32_t j = i + 1; j <= n1; ++j) b += static_cast<double>(d1.At(i, j)) * d1.At(i, j);
     }
     const double t = std::pow((a1 - 1) * k1 / (2 * a1), 2);
@@ -97,15 +87,18 @@ TEST(DivergenceVariances, EqualTheRowSumFormsOnRandomTables) {
     EXPECT_NEAR(*VarianceWithin(d1, k1), var1, 1e-12 * (1 + std::abs(var1)));
 
     double t0 = 0, t1 = 0, t2 = 0, c1 = 0, c2 = 0;
-    for (int32_t i = 1; i <= n1; ++i) {
-      t2 += RowSum(d, i) * RowSum(d, i);
-      c1 += RowSum(d1, i) * RowSum(d, i);
-      for (int32_t j = 1; j <= n2; ++j) t0 += static_cast<double>(d.At(i, j)) * d.At(i, j);
-    }
-    for (int32_t j = 1; j <= n2; ++j) {
-      t1 += ColumnSum(d, j) * ColumnSum(d, j);
-      c2 += RowSum(d2, j) * ColumnSum(d, j);
-    }
+    for (int32_t i = 1; i <= n1; ++i)
+      for (int32_t j = 1; j <= n2; ++j) {
+        t0 += static_cast<double>(d.At(i, j)) * d.At(i, j);
+        for (int32_t i2 = 1; i2 <= n1; ++i2) t1 += static_cast<double>(d.At(i, j)) * d.At(i2, j);
+        for (int32_t j2 = 1; j2 <= n2; ++j2) t2 += static_cast<double>(d.At(i, j)) * d.At(i, j2);
+      }
+    for (int32_t i = 1; i <= n1; ++i)
+      for (int32_t j = 1; j <= n1; ++j)
+        for (int32_t m = 1; m <= n2; ++m) c1 += static_cast<double>(d1.At(i, j)) * d.At(i, m);
+    for (int32_t i = 1; i <= n2; ++i)
+      for (int32_t j = 1; j <= n2; ++j)
+        for (int32_t m = 1; m <= n1; ++m) c2 += static_cast<double>(d2.At(i, j)) * d.At(m, i);
     const double vxy = ((a1 - 1) * (t1 + t0) / (a1 * a1 * a2) +
                         (a2 - 1) * (t2 + t0) / (a2 * a2 * a1) + (1 - a1 - a2) * dm * dm +
                         t0 / (a1 * a2)) /
