@@ -38,7 +38,7 @@ NucleotideCounts CountColumn(const SeqMatrix& matrix, int32_t site, int32_t seqs
   return counts;
 }
 
-int16_t ClassFromCounts(const NucleotideCounts& counts) {
+int16_t ClassOf(const NucleotideCounts& counts) {
   if (counts.gap) return kGapOrMissing;
   const auto zeros = std::count(counts.count.begin(), counts.count.end(), 0);
   switch (zeros) {
@@ -73,23 +73,31 @@ int16_t ClassifyColumn(const SeqMatrix& matrix, int32_t site, int32_t seqs) {
   int32_t seq = 2;
   while (seq <= seqs && matrix.at(site, seq) == first) ++seq;
   if (seq > seqs) return kMonomorphic;
-  return ClassFromCounts(CountColumn(matrix, site, seqs));
+  return ClassOf(CountColumn(matrix, site, seqs));
 }
 
 int16_t ClassifySubsetColumn(const SeqMatrix& matrix, int32_t site, int32_t seqs,
                              int16_t wider_class, int16_t gaps_in_sets) {
   if (wider_class == kMonomorphic) return kMonomorphic;
   if (wider_class == kGapOrMissing && gaps_in_sets == 2) return kGapOrMissing;
-  return ClassFromCounts(CountColumn(matrix, site, seqs));
+  return ClassOf(CountColumn(matrix, site, seqs));
+}
+
+int16_t ClassFromCounts(const SiteCounts& counts, int32_t seqs) {
+  NucleotideCounts nucleotides;
+  nucleotides.count = counts.nucleotide;
+  nucleotides.gap = counts.nucleotides() < seqs;
+  return ClassOf(nucleotides);
 }
 
 void ClassifyAllSites(ActiveData& ad) {
   const int32_t seqs = std::min(ad.NumSeqs, ad.RawMatrix.seqs());
   const int32_t sites = SitesOf(ad, ad.RawMatrix);
   ad.SiteClass.assign(static_cast<size_t>(ad.NumSites) + 1, kMonomorphic);
-  for (int32_t site = 1; site <= sites; ++site) {
-    ad.SiteClass[static_cast<size_t>(site)] = ClassifyColumn(ad.RawMatrix, site, seqs);
-  }
+  if (seqs < 1) return;
+  ForEachSiteCounts(ad.RawMatrix, seqs, sites, [&](int32_t site, const SiteCounts& counts) {
+    ad.SiteClass[static_cast<size_t>(site)] = ClassFromCounts(counts, seqs);
+  });
 }
 
 namespace {
@@ -100,10 +108,17 @@ void ClassifySubset(const ActiveData& ad, const SeqMatrix& matrix, int32_t seqs,
   const int32_t sites =
       std::min<int32_t>(SitesOf(ad, matrix), static_cast<int32_t>(wider.size()) - 1);
   out.assign(static_cast<size_t>(ad.NumSites) + 1, kMonomorphic);
-  for (int32_t site = 1; site <= sites; ++site) {
-    out[static_cast<size_t>(site)] =
-        ClassifySubsetColumn(matrix, site, seqs, wider[static_cast<size_t>(site)], ad.GapsInSets);
-  }
+  ForEachSiteCounts(matrix, seqs, sites, [&](int32_t site, const SiteCounts& counts) {
+    const int16_t wider_class = wider[static_cast<size_t>(site)];
+    int16_t& cls = out[static_cast<size_t>(site)];
+    if (wider_class == kMonomorphic) {
+      cls = kMonomorphic;
+    } else if (wider_class == kGapOrMissing && ad.GapsInSets == 2) {
+      cls = kGapOrMissing;
+    } else {
+      cls = ClassFromCounts(counts, seqs);
+    }
+  });
 }
 
 }  // namespace

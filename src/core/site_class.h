@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/active_data.h"
+#include "core/site_counts.h"
 
 namespace ovelt {
 
@@ -20,6 +21,10 @@ namespace ovelt {
 // there means a gap here. Otherwise the four nucleotides of the subset are counted.
 [[nodiscard]] int16_t ClassifySubsetColumn(const SeqMatrix& matrix, int32_t site, int32_t seqs,
                                            int16_t wider_class, int16_t gaps_in_sets);
+
+// Class of a site from its counts over `seqs` sequences: 5 when any of them is not a nucleotide
+// there, as ClassifyColumn.
+[[nodiscard]] int16_t ClassFromCounts(const SiteCounts& counts, int32_t seqs);
 
 // Load step 1: `SiteClass` over the first `NumSeqs` sequences of `RawMatrix`.
 void ClassifyAllSites(ActiveData& ad);

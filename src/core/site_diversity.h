@@ -10,12 +10,21 @@
 #include <vector>
 
 #include "core/active_data.h"
+#include "core/site_counts.h"
 
 namespace ovelt {
+
+// Value of a site of class `site_class` from its counts over `seqs` sequences.
+[[nodiscard]] double DiversityFromCounts(const SiteCounts& counts, int32_t seqs,
+                                         int16_t site_class);
 
 // Value of one site of `matrix` over its first `seqs` sequences, given the site's class.
 [[nodiscard]] double SiteDiversityValue(const SeqMatrix& matrix, int32_t site, int32_t seqs,
                                         int16_t site_class);
+
+// `SiteClass` (as ClassifyAllSites) and `SiteDiversity` of a file just read, whose included
+// matrix is its file matrix: both from one pass over the cells.
+void ClassifyAndMeasureAllSites(ActiveData& ad);
 
 // `SiteDiversity` over `IncMatrix` (`NumSeqs` sequences) and `SiteClass`.
 void ComputeSiteDiversity(ActiveData& ad);

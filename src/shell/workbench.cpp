@@ -179,8 +179,9 @@ void Workbench::CommitLoadedFile(LoadedFile&& file, const std::string& path) {
   next.IncNames = std::move(file.Names);
   next.IncMatrix = next.RawMatrix;  // shares the cells until an exclusion
 
-  // 1. Classify the sites over all sequences.
-  ClassifyAllSites(next);
+  // 1. Classify the sites over all sequences, and (step 6 below, taken here in the same pass
+  //    over the cells) their diversities: nothing between the two changes the sequences in use.
+  ClassifyAndMeasureAllSites(next);
   // 2. The file layer's own copies.
   next.TotalSeqs = static_cast<int16_t>(next.NumSeqs);
   next.RawSiteClass = next.SiteClass;
@@ -208,8 +209,7 @@ void Workbench::CommitLoadedFile(LoadedFile&& file, const std::string& path) {
   // 5. Count the open file.
   next.OpenFiles = static_cast<int16_t>(next.OpenFiles + 1);
   if (next.FileKind == kNexus && file.Nexus) ApplyNexusExtras(*file.Nexus, next);
-  // 6. Per-site diversity over the included sequences.
-  ComputeSiteDiversity(next);
+  // 6. Per-site diversity over the included sequences: taken with step 1.
   // 7. Coding tables.
   RebuildCodingTables(next);
   next.Region.RegionFrom = 1;
