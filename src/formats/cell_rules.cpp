@@ -20,13 +20,29 @@ CellTable BaseTable() {
   return table;
 }
 
+void MarkPlainCopies(CellTable& table) {
+  table.plain_copies = true;
+  for (char c : {'A', 'C', 'G', 'T', '-', '?'}) {
+    if (table.code[static_cast<unsigned char>(c)] != static_cast<uint8_t>(c)) {
+      table.plain_copies = false;
+    }
+  }
+}
+
 }  // namespace
 
-char UpperCase(char c) { return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c; }
+char UpperCase(char c) {
+  return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
+}
 
 bool IsAmbiguityCode(char upper) {
   switch (upper) {
-    case 'M': case 'R': case 'W': case 'S': case 'Y': case 'K':
+    case 'M':
+    case 'R':
+    case 'W':
+    case 'S':
+    case 'Y':
+    case 'K':
       return true;
     default:
       return false;
@@ -39,6 +55,7 @@ CellTable MakeCellTable(std::string_view stop_chars) {
   table.code['?'] = '?';
   table.code['.'] = kCellMatch;
   for (char c : stop_chars) table.code[static_cast<unsigned char>(c)] = kCellStop;
+  MarkPlainCopies(table);
   return table;
 }
 
@@ -50,6 +67,7 @@ CellTable MakeMegaCellTable(char match, char gap, char missing) {
   SetBothCases(table, missing, '?');
   SetBothCases(table, gap, '-');
   SetBothCases(table, match, kCellMatch);
+  MarkPlainCopies(table);
   return table;
 }
 

@@ -24,6 +24,9 @@ inline constexpr uint8_t kFirstStoredCell = 32;
 
 struct CellTable {
   std::array<uint8_t, 256> code{};
+  // True when A, C, G, T, "-" and "?" are each stored as themselves: a run of them is copied
+  // as it stands (set by the Make functions below).
+  bool plain_copies = false;
   [[nodiscard]] uint8_t of(char c) const { return code[static_cast<unsigned char>(c)]; }
 };
 

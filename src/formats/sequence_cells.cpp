@@ -3,11 +3,53 @@
 #include <algorithm>
 #include <cstring>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace ovelt {
+namespace {
+
+// The length of the run of A, C, G, T, "-" and "?" that opens `p` (at most `n` bytes), found
+// sixteen bytes at a time.
+size_t PlainRun(const char* p, size_t n) {
+  size_t i = 0;
+#if defined(__SSE2__)
+  const __m128i a = _mm_set1_epi8('A'), c = _mm_set1_epi8('C'), g = _mm_set1_epi8('G');
+  const __m128i t = _mm_set1_epi8('T'), gap = _mm_set1_epi8('-'), missing = _mm_set1_epi8('?');
+  while (i + 16 <= n) {
+    const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + i));
+    const __m128i hit =
+        _mm_or_si128(_mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(v, a), _mm_cmpeq_epi8(v, c)),
+                                  _mm_or_si128(_mm_cmpeq_epi8(v, g), _mm_cmpeq_epi8(v, t))),
+                     _mm_or_si128(_mm_cmpeq_epi8(v, gap), _mm_cmpeq_epi8(v, missing)));
+    const unsigned mask = static_cast<unsigned>(_mm_movemask_epi8(hit));
+    if (mask != 0xFFFFu) return i + static_cast<size_t>(__builtin_ctz(~mask));
+    i += 16;
+  }
+#endif
+  while (i < n) {
+    switch (p[i]) {
+      case 'A':
+      case 'C':
+      case 'G':
+      case 'T':
+      case '-':
+      case '?':
+        ++i;
+        break;
+      default:
+        return i;
+    }
+  }
+  return i;
+}
+
+}  // namespace
 
 bool SequenceCells::Grow() {
   if (count_ >= limit_) return false;
-  if (count_ < cells_.size()) return true;
+  if (count_ < capacity()) return true;
   // Doubling keeps enlargements rare for a first sequence of unknown length.
   const size_t wanted = std::min(limit_, std::max<size_t>(cells_.size() * 2, 16384));
   cells_.resize(wanted);
@@ -22,8 +64,8 @@ struct CellWalker {
     const size_t n = text.size();
     size_t i = 0;
     size_t count = seq.count_;
-    char* out = seq.cells_.data();
-    size_t room = std::min(seq.cells_.size(), seq.limit_);
+    char* out = seq.data();
+    size_t room = std::min(seq.capacity(), seq.limit_);
 
     auto finish = [&](WalkEnd end, size_t pos, char ch) {
       seq.count_ = count;
@@ -46,6 +88,13 @@ struct CellWalker {
 
     const uint8_t* codes = table.code.data();
     while (i < n) {
+      // Runs of cells stored as they are written, copied whole.
+      if (table.plain_copies) {
+        const size_t run = PlainRun(p + i, std::min(n - i, room - count));
+        std::memcpy(out + count, p + i, run);
+        count += run;
+        i += run;
+      }
       // Runs of plain cells, eight at a time: the common case of every sequence line.
       while (i + 8 <= n && count + 8 <= room) {
         unsigned char eight[8];
@@ -67,8 +116,8 @@ struct CellWalker {
         if (count == room) {
           seq.count_ = count;
           if (!seq.Grow()) return finish(WalkEnd::kFull, i, c);
-          out = seq.cells_.data();
-          room = std::min(seq.cells_.size(), seq.limit_);
+          out = seq.data();
+          room = std::min(seq.capacity(), seq.limit_);
         }
         if (code >= kFirstStoredCell) {
           out[count++] = static_cast<char>(code);
