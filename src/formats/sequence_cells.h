@@ -24,16 +24,29 @@ class SequenceCells {
   void Start(size_t limit = kNoLimit) {
     count_ = 0;
     limit_ = limit;
+    external_ = nullptr;
+  }
+  // Empties the sequence, whose `limit` cells are written straight into `dest` (their final
+  // place in the matrix), so that they need not be copied there afterwards.
+  void StartInto(char* dest, size_t limit) {
+    count_ = 0;
+    limit_ = limit;
+    external_ = dest;
   }
   [[nodiscard]] size_t count() const { return count_; }
   [[nodiscard]] size_t limit() const { return limit_; }
   [[nodiscard]] bool full() const { return count_ == limit_; }
-  [[nodiscard]] const char* data() const { return cells_.data(); }
-  [[nodiscard]] char* data() { return cells_.data(); }
+  [[nodiscard]] const char* data() const { return external_ ? external_ : cells_.data(); }
+  [[nodiscard]] char* data() { return external_ ? external_ : cells_.data(); }
+  // Cells that fit before the buffer must grow.
+  [[nodiscard]] size_t capacity() const { return external_ ? limit_ : cells_.size(); }
+  // True when the cells went straight to their place (StartInto).
+  [[nodiscard]] bool in_place() const { return external_ != nullptr; }
   // Gives back the memory (after the cells were copied elsewhere).
   void Release() {
     std::vector<char>().swap(cells_);
     count_ = 0;
+    external_ = nullptr;
   }
 
  private:
@@ -42,6 +55,7 @@ class SequenceCells {
   bool Grow();
 
   std::vector<char> cells_;
+  char* external_ = nullptr;
   size_t count_ = 0;
   size_t limit_ = kNoLimit;
 };
@@ -75,8 +89,7 @@ struct WalkResult {
 
 // Walks `text` by the rules of `table`, appending the cells to `cells`.
 [[nodiscard]] WalkResult WalkCells(const CellTable& table, std::string_view text,
-                                   SequenceCells& cells, const MatchRule& match,
-                                   WalkState& state);
+                                   SequenceCells& cells, const MatchRule& match, WalkState& state);
 
 // Counts the characters of `text` other than blank and tab.
 [[nodiscard]] size_t CountNonBlank(std::string_view text);

@@ -13,7 +13,12 @@ SequenceCells& SequentialMatrix::Begin(std::string_view name) {
   if (current() >= kMaxSequences)
     throw ReadError(DataFileErrorText(path_, TooManySequencesSentence()));
   names_.push_back(FixedName(std::string(name)));
-  cells_.Start(sites_ >= 0 ? static_cast<size_t>(sites_) : SequenceCells::kNoLimit);
+  if (current() > 1 && sites_ > 0) {
+    // The length is known: the cells go straight to their place in the matrix.
+    cells_.StartInto(matrix_.append_unfilled_sequence(), static_cast<size_t>(sites_));
+  } else {
+    cells_.Start(sites_ >= 0 ? static_cast<size_t>(sites_) : SequenceCells::kNoLimit);
+  }
   return cells_;
 }
 
@@ -35,7 +40,7 @@ bool SequentialMatrix::End(int64_t bytes_left) {
   } else if (cells_.count() != static_cast<size_t>(sites_)) {
     return false;
   }
-  matrix_.append_sequence(cells_.data());
+  if (!cells_.in_place()) matrix_.append_sequence(cells_.data());
   return true;
 }
 
