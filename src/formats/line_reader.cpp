@@ -9,6 +9,10 @@ namespace ovelt {
 namespace {
 
 constexpr size_t kChunkBytes = size_t{1} << 20;
+// The bytes searched for a line end at a time.
+constexpr size_t kSeekWindow = size_t{64} << 10;
+// How far the reading moves on between two hand-backs of the bytes behind it.
+constexpr size_t kReleaseStep = size_t{2} << 20;
 
 size_t FindByte(const char* data, size_t from, size_t end, char byte) {
   if (from >= end) return end;
@@ -28,12 +32,31 @@ LineReader::LineReader(std::FILE* file, int64_t file_size, ReadProgress progress
   }
 }
 
-LineReader::LineReader(std::string_view bytes, ReadProgress progress)
+LineReader::LineReader(std::string_view bytes, ReadProgress progress,
+                       std::function<void(size_t)> release)
     : data_(bytes.data()),
       end_(bytes.size()),
       at_eof_(true),
       total_(static_cast<int64_t>(bytes.size())),
-      progress_(std::move(progress)) {}
+      progress_(std::move(progress)),
+      release_(std::move(release)),
+      next_release_(kReleaseStep) {}
+
+size_t LineReader::ByteSeeker::Find(const char* data, size_t from, size_t limit, size_t end) {
+  if (found != kNone && found < from) found = kNone;
+  searched = std::max(searched, from);
+  while (found == kNone && searched < limit) {
+    const size_t to = std::min(end, std::max(limit, searched + kSeekWindow));
+    const size_t hit = FindByte(data, searched, to, byte);
+    if (hit < to) {
+      found = hit;
+      searched = hit + 1;
+    } else {
+      searched = to;
+    }
+  }
+  return found != kNone && found < limit ? found : limit;
+}
 
 bool LineReader::Refill() {
   if (file_ == nullptr || at_eof_) return false;
@@ -56,6 +79,11 @@ bool LineReader::Refill() {
 }
 
 bool LineReader::Next(std::string_view& line) {
+  // The line handed out last is done with: what lies before this one is never read again.
+  if (release_ && !marked_ && pos_ >= next_release_) {
+    release_(pos_);
+    next_release_ = pos_ + kReleaseStep;
+  }
   for (;;) {
     if (skip_lf_) {
       if (pos_ == end_) Refill();
@@ -69,10 +97,20 @@ bool LineReader::Next(std::string_view& line) {
       ReportProgress();
       return false;
     }
-    if (!marks_valid_ || next_cr_ < pos_) next_cr_ = FindByte(data_, pos_, end_, '\r');
-    if (!marks_valid_ || next_lf_ < pos_) next_lf_ = FindByte(data_, pos_, end_, '\n');
-    marks_valid_ = true;
-    const size_t line_end = std::min(next_cr_, next_lf_);
+    if (!marks_valid_) {
+      cr_.Reset();
+      lf_.Reset();
+      marks_valid_ = true;
+    }
+    // The first line end at or after pos_, looked for a window at a time (end_ when none).
+    size_t line_end = end_;
+    for (size_t limit = pos_; limit < end_;) {
+      limit = std::min(end_, limit + kSeekWindow);
+      const size_t lf = lf_.Find(data_, pos_, limit, end_);
+      line_end = cr_.Find(data_, pos_, lf, end_);
+      if (line_end < limit) break;
+      line_end = end_;
+    }
     if (line_end == end_) {
       if (!at_eof_) {
         Refill();

@@ -14,6 +14,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,8 +27,11 @@ class LineReader {
  public:
   // Reads the bytes of an open file (not owned; it stays open while the reader is used).
   LineReader(std::FILE* file, int64_t file_size, ReadProgress progress = {});
-  // Reads bytes held in memory (not copied; they must outlive the reader).
-  explicit LineReader(std::string_view bytes, ReadProgress progress = {});
+  // Reads bytes held in memory (not copied; they must outlive the reader). `release`, when
+  // given, is told now and then the offset below which no byte will be read again (no mark is
+  // held there), so that the owner of the bytes may give their memory back.
+  explicit LineReader(std::string_view bytes, ReadProgress progress = {},
+                      std::function<void(size_t)> release = {});
 
   LineReader(const LineReader&) = delete;
   LineReader& operator=(const LineReader&) = delete;
@@ -58,27 +62,42 @@ class LineReader {
   std::FILE* file_ = nullptr;
   bool seekable_ = false;       // a regular file, rewound by seeking rather than by keeping bytes
   int64_t start_offset_ = 0;    // the file's offset when the reader began
-  std::vector<char> chunk_;    // file mode: buffer of read bytes
+  std::vector<char> chunk_;     // file mode: buffer of read bytes
   const char* data_ = nullptr;  // current bytes: [data_ + pos_, data_ + end_)
   size_t pos_ = 0;
   size_t end_ = 0;
-  bool at_eof_ = false;         // nothing more can be read into the buffer
-  bool skip_lf_ = false;        // last line ended in CR at the end of a chunk
-  // Cached positions of the next CR and LF at or after pos_ (end_ when none): each byte is
-  // searched once, so CR-only files cost no more than LF files.
-  size_t next_cr_ = 0;
-  size_t next_lf_ = 0;
+  bool at_eof_ = false;   // nothing more can be read into the buffer
+  bool skip_lf_ = false;  // last line ended in CR at the end of a chunk
+  // Where the next CR and the next LF lie, each searched a window at a time: every byte is
+  // searched once for each, and never far ahead of the reading, so that a file of one kind of
+  // line end costs no more than another and the bytes are still in the cache when walked.
+  struct ByteSeeker {
+    static constexpr size_t kNone = static_cast<size_t>(-1);
+    char byte = '\n';
+    size_t found = kNone;  // the first `byte` at or after `searched`'s start, when known
+    size_t searched = 0;   // [.., searched) holds no `byte` other than `found`
+    void Reset() {
+      found = kNone;
+      searched = 0;
+    }
+    // The first `byte` in [from, limit) of data[0, end), or `limit`.
+    size_t Find(const char* data, size_t from, size_t limit, size_t end);
+  };
+  ByteSeeker cr_{'\r'};
+  ByteSeeker lf_{'\n'};
   bool marks_valid_ = false;
 
   // The mark: where the next line began, and what was known of the line ends there.
   bool marked_ = false;
-  size_t mark_pos_ = 0;         // in the buffer, for input that cannot seek
+  size_t mark_pos_ = 0;  // in the buffer, for input that cannot seek
   int64_t mark_consumed_ = 0;
   bool mark_skip_lf_ = false;
 
   int64_t total_ = 0;
   int64_t consumed_ = 0;
   ReadProgress progress_;
+  std::function<void(size_t)> release_;
+  size_t next_release_ = 0;
   int last_percent_ = -1;
   int64_t next_report_at_ = 0;
 };

@@ -13,6 +13,7 @@
 #include <string>
 
 #include "core/active_data.h"
+#include "files/mapped_file.h"
 #include "formats/line_reader.h"
 #include "formats/read_file.h"
 #include "formats/read_messages.h"
@@ -68,8 +69,7 @@ struct FileCloser {
 
 }  // namespace
 
-LoadedFile ReadDataFile(const std::string& path, Platform& platform,
-                        const ReadProgress& progress) {
+LoadedFile ReadDataFile(const std::string& path, Platform& platform, const ReadProgress& progress) {
   const bool from_stdin = path == kStandardInputPath;
   std::unique_ptr<std::FILE, FileCloser> opened;
   if (!from_stdin) {
@@ -82,11 +82,19 @@ LoadedFile ReadDataFile(const std::string& path, Platform& platform,
   // The size, for the gauge, of the file already open: a pipe has none.
   struct stat info {};
   const bool sized = ::fstat(::fileno(file), &info) == 0 && S_ISREG(info.st_mode);
+  const std::string file_name = from_stdin ? path : std::filesystem::path(path).filename().string();
+  const MegaQuestion ask_mega = [&] { return platform.AskMegaOptions(file_name); };
+  // A regular file is read where the system maps it, without copying it into a buffer, and
+  // the pages behind the reading are given back as it goes.
+  if (sized) {
+    MappedFile map(::fileno(file), static_cast<size_t>(info.st_size));
+    if (map.valid()) {
+      LineReader in(map.bytes(), progress, [&map](size_t offset) { map.Release(offset); });
+      return ReadGuarded(in, path, std::nullopt, ask_mega);
+    }
+  }
   LineReader in(file, sized ? static_cast<int64_t>(info.st_size) : 0, progress);
-  const std::string file_name =
-      from_stdin ? path : std::filesystem::path(path).filename().string();
-  return ReadGuarded(in, path, std::nullopt,
-                     [&] { return platform.AskMegaOptions(file_name); });
+  return ReadGuarded(in, path, std::nullopt, ask_mega);
 }
 
 LoadedFile ReadDataBuffer(std::string_view bytes, const std::string& display_path,
