@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/cli_runner.h"
 #include "support/temp_dir.h"
+#include "ui/cli/graph_module_loader.h"
 
 namespace ovelt {
 namespace {
@@ -15,6 +18,8 @@ using testing::RunOvelt;
 using testing::TempDir;
 
 const std::string kExample = std::string(OVELT_EXAMPLES) + "/example.fas";
+
+#ifdef OVELT_GRAPH_MODULE
 
 std::string Head(const std::string& path, size_t bytes) {
   std::ifstream in(path, std::ios::binary);
@@ -31,13 +36,11 @@ uint32_t LittleEndian32(const std::string& bytes, size_t at) {
   return v;
 }
 
-#ifdef OVELT_GRAPH_DRAW
-
 TEST(GraphCli, SlidingWindowGraphAsPng) {
   TempDir dir;
   const std::string png = (dir.Path() / "pi.png").string();
-  const auto r = RunOvelt(
-      {"dna-polymorphism", kExample, "--sliding-window", "--graph", png}, dir.Path().string());
+  const auto r = RunOvelt({"dna-polymorphism", kExample, "--sliding-window", "--graph", png},
+                          dir.Path().string());
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(Head(png, 8), "\x89PNG\r\n\x1a\n");
   EXPECT_GT(std::filesystem::file_size(png), 1000u);
@@ -58,8 +61,8 @@ TEST(GraphCli, TajimaWindowsAsSvg) {
 TEST(GraphCli, MismatchAsBitmap) {
   TempDir dir;
   const std::string bmp = (dir.Path() / "mismatch.bmp").string();
-  const auto r = RunOvelt({"population-size-changes", kExample, "--graph", bmp},
-                          dir.Path().string());
+  const auto r =
+      RunOvelt({"population-size-changes", kExample, "--graph", bmp}, dir.Path().string());
   ASSERT_EQ(r.status, 0) << r.err;
   const std::string bytes = Head(bmp, 1 << 22);
   ASSERT_GT(bytes.size(), 54u);
@@ -76,6 +79,70 @@ TEST(GraphCli, FuLiWindowsKeepTheReportOnStandardOutput) {
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_NE(r.out.find("Input Data File:"), std::string::npos);
   EXPECT_EQ(Head(png, 4), "\x89PNG");
+}
+
+// Sets an environment variable for the time of one test, and puts back what was there.
+class ScopedVariable {
+ public:
+  ScopedVariable(const char* name, const std::string& value) : name_(name) {
+    if (const char* old = std::getenv(name)) old_ = old;
+    ::setenv(name, value.c_str(), 1);
+  }
+  ~ScopedVariable() {
+    if (old_)
+      ::setenv(name_, old_->c_str(), 1);
+    else
+      ::unsetenv(name_);
+  }
+  ScopedVariable(const ScopedVariable&) = delete;
+  ScopedVariable& operator=(const ScopedVariable&) = delete;
+
+ private:
+  const char* name_;
+  std::optional<std::string> old_;
+};
+
+TEST(GraphCli, WithoutTheModuleNothingIsDrawnAndTheReportStillComesOut) {
+  TempDir dir;
+  TempDir empty;
+  const ScopedVariable modules("OVELT_GRAPH_MODULE_DIR", empty.Path().string());
+  const std::string png = (dir.Path() / "pi.png").string();
+  const auto r = RunOvelt({"dna-polymorphism", kExample, "--sliding-window", "--graph", png},
+                          dir.Path().string());
+  EXPECT_NE(r.status, 0);
+  const std::string looked = (empty.Path() / "ovelt-graph.so").string();
+  EXPECT_NE(r.err.find("The graph module ovelt-graph.so was not found in: " + looked +
+                       ".\nNothing was written on " + png),
+            std::string::npos)
+      << r.err;
+  EXPECT_FALSE(std::filesystem::exists(png));
+  EXPECT_NE(r.out.find("Input Data File:"), std::string::npos);
+}
+
+TEST(GraphCli, AModuleOfAnotherLayoutIsRefused) {
+  TempDir dir;
+  const ScopedVariable modules("OVELT_GRAPH_MODULE_DIR", OVELT_STALE_GRAPH_MODULE);
+  const std::string svg = (dir.Path() / "d.svg").string();
+  const auto r =
+      RunOvelt({"tajima", kExample, "--sliding-window", "--graph", svg}, dir.Path().string());
+  EXPECT_NE(r.status, 0);
+  EXPECT_NE(r.err.find(std::string(OVELT_STALE_GRAPH_MODULE) +
+                       "/ovelt-graph.so was made for another version of this program (layout " +
+                       std::to_string(kGraphModuleLayout + 1) + ", this one needs " +
+                       std::to_string(kGraphModuleLayout) +
+                       ") and was not used.\nNothing was written on " + svg),
+            std::string::npos)
+      << r.err;
+  // Its save entry writes the file when called: the file's absence shows it was never called.
+  EXPECT_FALSE(std::filesystem::exists(svg));
+  EXPECT_NE(r.out.find("Input Data File:"), std::string::npos);
+}
+
+TEST(GraphCli, TheModuleIsLookedForBesideTheProgramThenUnderLib) {
+  const ScopedVariable modules("OVELT_GRAPH_MODULE_DIR", "");
+  EXPECT_EQ(GraphModuleCandidates("/opt/ovelt/bin"),
+            (std::vector<std::filesystem::path>{"/opt/ovelt/bin/ovelt-graph.so",
+                                                "/opt/ovelt/lib/ovelt/ovelt-graph.so"}));
 }
 
 #endif

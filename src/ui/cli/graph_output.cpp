@@ -2,8 +2,9 @@
 
 #include "output/graph_layout.h"
 
-#ifdef OVELT_GRAPH_DRAW
-#include "ui/qt/graph_painter.h"
+#ifdef OVELT_GRAPH_MODULE
+#include "ui/cli/console_platform.h"
+#include "ui/cli/graph_module_loader.h"
 #endif
 
 namespace ovelt {
@@ -24,8 +25,14 @@ bool WriteGraphFile(const OutputChannel& channel, const std::string& path, Platf
                         MsgIcon::kWarning);
     return false;
   }
-#ifdef OVELT_GRAPH_DRAW
-  if (SaveGraphFile(picture, path)) return true;
+#ifdef OVELT_GRAPH_MODULE
+  // The painter is loaded only here, so a run without a chart never loads Qt.
+  const GraphModule module = LoadGraphModule(ExecutableDirectory());
+  if (module.Save == nullptr) {
+    platform.MessageBox(module.Fault + ".\nNothing was written on " + path, MsgIcon::kWarning);
+    return false;
+  }
+  if (module.Save(&picture, path.c_str()) == 1) return true;
   platform.MessageBox("Can't save the graph on the file: " + path, MsgIcon::kWarning);
 #else
   platform.MessageBox(
