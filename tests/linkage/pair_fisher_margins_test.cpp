@@ -23,10 +23,14 @@ int CompareP(float kept, float direct) {
 }
 
 // Every table of the margins r1, c1 of total n, from the lowest a to the highest, through the
-// kept P values and the direct way; returns how many differ.
+// kept P values and the direct way; returns how many differ. A first walk over the tables
+// makes the margins seen often enough to be kept.
 int CompareMargins(PairFisher& fisher, int n, int r1, int c1) {
+  const int lowest = std::max(0, r1 + c1 - n);
+  for (int a = lowest; a <= std::min(r1, c1); ++a)
+    (void)fisher.TwoTailed(a, r1 - a, c1 - a, n - r1 - c1 + a);
   int differing = 0;
-  for (int a = std::max(0, r1 + c1 - n); a <= std::min(r1, c1); ++a) {
+  for (int a = lowest; a <= std::min(r1, c1); ++a) {
     const int b = r1 - a, c = c1 - a, d = n - r1 - c1 + a;
     differing += CompareP(fisher.TwoTailed(a, b, c, d), fisher.TwoTailedDirect(a, b, c, d));
   }
@@ -115,6 +119,24 @@ TEST(PairFisherMargins, SymmetricTablesTie) {
       EXPECT_EQ(fisher.TwoTailed(h / 2, h / 2, h / 2, h / 2), 1.0f);
     }
   }
+}
+
+// Margins seen less often than their tables over kTablesPerSight are worked out table by
+// table; at the sight that reaches it they are kept.
+TEST(PairFisherMargins, KeptOnceSeenOftenEnough) {
+  const int n = 2000, h = 1000;
+  PairFisher fisher(n);
+  const int64_t tables = h + 1;
+  const int64_t sights = (tables + PairFisher::kTablesPerSight - 1) / PairFisher::kTablesPerSight;
+  ASSERT_GT(sights, 1);
+  const float direct = fisher.TwoTailedDirect(520, 480, 480, 520);
+  for (int64_t i = 1; i < sights; ++i) EXPECT_EQ(fisher.TwoTailed(520, 480, 480, 520), direct);
+  EXPECT_EQ(fisher.CachedMargins(), 0);
+  CompareP(fisher.TwoTailed(520, 480, 480, 520), direct);
+  EXPECT_EQ(fisher.CachedMargins(), 1);
+  // Margins with fewer tables than kTablesPerSight are kept at their first sight.
+  (void)fisher.TwoTailed(5, 10, 10, n - 25);
+  EXPECT_EQ(fisher.CachedMargins(), 2);
 }
 
 TEST(PairFisherMargins, MemoryBoundFallsBackToTheDirectWay) {

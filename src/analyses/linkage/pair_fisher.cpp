@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdlib>
+#include <limits>
 
 #include "stats/fisher_tails.h"
 #include "stats/log_factorial.h"
@@ -12,8 +13,8 @@
 namespace ovelt {
 namespace {
 
-// P values per block of the store: 1 MB, or one margin pair's when that is more.
-constexpr std::size_t kBlockFloats = std::size_t{1} << 18;
+// Kept P values addressable by a 32-bit place: at most 1 GB of them.
+constexpr std::size_t kMaxCacheBytes = std::size_t{1} << 30;
 
 // Equal sums up to rounding still count as not exceeding the first tail.
 bool WithinFirstTail(double sum, double p1) {
@@ -22,7 +23,8 @@ bool WithinFirstTail(double sum, double p1) {
 
 }  // namespace
 
-PairFisher::PairFisher(int32_t n, std::size_t cache_bytes) : n_(n), bytes_left_(cache_bytes) {
+PairFisher::PairFisher(int32_t n, std::size_t cache_bytes)
+    : n_(n), bytes_left_(std::min(cache_bytes, kMaxCacheBytes)) {
   const LogFactorialTable table(n);
   lf_.resize(static_cast<std::size_t>(n) + 1);
   for (int32_t i = 0; i <= n; ++i) lf_[static_cast<std::size_t>(i)] = table(i);
@@ -33,44 +35,54 @@ float PairFisher::TwoTailed(int32_t a, int32_t b, int32_t c, int32_t d) {
   if (a < 0 || b < 0 || c < 0 || d < 0) throw StatsError(kFisherExactFailureText);
   if (static_cast<int64_t>(a) + b + c + d == n_) {
     const int32_t r1 = a + b, c1 = a + c;
-    const std::vector<const float*>& row = rows_[static_cast<std::size_t>(r1)];
-    const float* p = row.empty() ? nullptr : row[static_cast<std::size_t>(c1)];
-    if (p == nullptr) p = CacheMargins(r1, c1);
-    if (p != nullptr) return p[a - std::max(0, r1 + c1 - n_)];
+    const int64_t place = Sight(r1, c1);
+    if (place > 0) return Kept(place - 1)[a - std::max(0, r1 + c1 - n_)];
   }
   return TwoTailedDirect(a, b, c, d);
 }
 
-float* PairFisher::Reserve(std::size_t count) {
-  if (block_left_ < count) {
-    // The last block takes what is left of the bound.
-    const std::size_t size = std::max(count, std::min(kBlockFloats, bytes_left_ / sizeof(float)));
-    if (bytes_left_ < size * sizeof(float)) return nullptr;
-    bytes_left_ -= size * sizeof(float);
-    blocks_.push_back(std::make_unique<float[]>(size));
-    next_ = blocks_.back().get();
-    block_left_ = size;
+int64_t PairFisher::Sight(int32_t r1, int32_t c1) {
+  std::vector<int32_t>& row = rows_[static_cast<std::size_t>(r1)];
+  if (row.empty()) {
+    const std::size_t bytes = rows_.size() * sizeof(int32_t);
+    if (bytes_left_ < bytes) return 0;
+    bytes_left_ -= bytes;
+    row.assign(rows_.size(), 0);
   }
-  float* out = next_;
-  next_ += count;
-  block_left_ -= count;
-  return out;
+  int32_t& entry = row[static_cast<std::size_t>(c1)];
+  if (entry > 0) return entry;
+  if (entry > std::numeric_limits<int32_t>::min() + 1) --entry;
+  const int64_t tables = std::min(r1, c1) - std::max(0, r1 + c1 - n_) + 1;
+  if (-static_cast<int64_t>(entry) * kTablesPerSight < tables) return 0;
+  const int64_t place = Keep(r1, c1);
+  if (place < 0) return 0;
+  entry = static_cast<int32_t>(place + 1);
+  return entry;
 }
 
-const float* PairFisher::CacheMargins(int32_t r1, int32_t c1) {
-  std::vector<const float*>& row = rows_[static_cast<std::size_t>(r1)];
-  if (row.empty()) {
-    const std::size_t bytes = rows_.size() * sizeof(const float*);
-    if (bytes_left_ < bytes) return nullptr;
-    bytes_left_ -= bytes;
-    row.assign(rows_.size(), nullptr);
+int64_t PairFisher::Reserve(std::size_t count) {
+  if (blocks_.empty() || block_size_ - block_used_ < count) {
+    // The last block takes what is left of the bound.
+    const std::size_t size = std::min(kBlockFloats, bytes_left_ / sizeof(float));
+    if (size < count) return -1;
+    bytes_left_ -= size * sizeof(float);
+    blocks_.push_back(std::make_unique_for_overwrite<float[]>(size));
+    block_size_ = size;
+    block_used_ = 0;
   }
+  const std::size_t place = (blocks_.size() - 1) * kBlockFloats + block_used_;
+  block_used_ += count;
+  return static_cast<int64_t>(place);
+}
+
+int64_t PairFisher::Keep(int32_t r1, int32_t c1) {
   const int64_t n = n_;
   const int64_t lowest = std::max<int64_t>(0, r1 + c1 - n);
   const int64_t highest = std::min(r1, c1);
   const auto count = static_cast<std::size_t>(highest - lowest + 1);
-  float* out = Reserve(count);
-  if (out == nullptr) return nullptr;
+  const int64_t place = Reserve(count);
+  if (place < 0) return -1;
+  float* out = blocks_.back().get() + (block_used_ - count);
 
   // The terms in the order of the direct way's sums: k from the margins as a + c, b + d,
   // a + b, c + d, then the cells a, b, c, d.
@@ -124,9 +136,8 @@ const float* PairFisher::CacheMargins(int32_t r1, int32_t c1) {
     }
     out[i] = static_cast<float>(std::min(p1 + p2, 1.0));
   }
-  row[static_cast<std::size_t>(c1)] = out;
   ++cached_margins_;
-  return out;
+  return place;
 }
 
 float PairFisher::TwoTailedDirect(int32_t a32, int32_t b32, int32_t c32, int32_t d32) const {

@@ -37,8 +37,8 @@ class PairFisher {
   // For tables of total up to `n`. Throws StatsError as LogFactorialTable does for a bad n.
   explicit PairFisher(int32_t n, std::size_t cache_bytes = kDefaultCacheBytes);
 
-  // Two-tailed P of the table a b / c d (no cell below 0, total at most n), from the P values
-  // of its margins, worked out at their first table.
+  // Two-tailed P of the table a b / c d (no cell below 0, total at most n): from the P values
+  // kept for its margins, once they have been seen often enough to be worth working out.
   [[nodiscard]] float TwoTailed(int32_t a, int32_t b, int32_t c, int32_t d);
 
   // The same P worked out for this table alone.
@@ -47,26 +47,42 @@ class PairFisher {
   // Margin pairs whose P values are kept.
   [[nodiscard]] int64_t CachedMargins() const { return cached_margins_; }
 
+  // A margin pair is kept at the sight whose number times this reaches its number of tables:
+  // one table on its own costs a few tens of exp(), keeping them all about one exp() each, so
+  // margins seen rarely (large n, few sites) are not worked out in full for nothing.
+  static constexpr int64_t kTablesPerSight = 32;
+
  private:
+  // P values per block of the store (4 MB); a margin pair has at most 32,768 tables.
+  static constexpr std::size_t kBlockFloats = std::size_t{1} << 20;
+
   [[nodiscard]] double Lf(int64_t i) const { return lf_[static_cast<std::size_t>(i)]; }
-  // Works out and keeps the P of every table of total n with margins r1 and c1; null when the
-  // memory bound is reached.
-  const float* CacheMargins(int32_t r1, int32_t c1);
-  float* Reserve(std::size_t count);
+  // Counts a sight of the margins r1, c1 of total n; returns the place of their P values plus
+  // one, or 0 while they are to be worked out table by table.
+  int64_t Sight(int32_t r1, int32_t c1);
+  // Works out the P of every table with margins r1, c1 into the store; returns their place, or
+  // -1 when the memory bound is reached.
+  int64_t Keep(int32_t r1, int32_t c1);
+  // Place in the store for `count` P values, or -1.
+  int64_t Reserve(std::size_t count);
+  [[nodiscard]] const float* Kept(int64_t place) const {
+    const auto p = static_cast<std::size_t>(place);
+    return blocks_[p / kBlockFloats].get() + p % kBlockFloats;
+  }
 
   int32_t n_;
   std::vector<double> lf_;
 
-  // rows_[r1][c1]: the P values of the tables with margins r1, c1, indexed by a minus the
-  // smallest a of those margins; rows are made at the first use of their r1.
-  std::vector<std::vector<const float*>> rows_;
+  // rows_[r1][c1]: 0 before the margins r1, c1 are seen; minus the number of sights while their
+  // tables are worked out one by one; 1 + the place of their P values (indexed by a minus the
+  // smallest a of the margins) once kept. Rows are made at the first sight of their r1.
+  std::vector<std::vector<int32_t>> rows_;
   // The P values, in blocks that never move.
   std::vector<std::unique_ptr<float[]>> blocks_;
-  float* next_ = nullptr;
-  std::size_t block_left_ = 0;
+  std::size_t block_size_ = 0, block_used_ = 0;
   std::size_t bytes_left_;
   int64_t cached_margins_ = 0;
-  // Scratch of CacheMargins: the terms and their running sums from either end.
+  // Scratch of Keep: the terms and their running sums from either end.
   std::vector<double> terms_, from_low_, from_high_;
 };
 
