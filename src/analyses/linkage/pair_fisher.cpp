@@ -102,38 +102,30 @@ int64_t PairFisher::Keep(int32_t r1, int32_t c1) {
   sum = 0.0;
   for (std::size_t i = count; i-- > 0;) from_high_[i] = sum += terms_[i];
 
-  for (std::size_t i = 0; i < count; ++i) {
-    const int64_t a = lowest + static_cast<int64_t>(i);
-    const FisherTails tails = FisherTailsOf(a, r1 - a, c1 - a, n - r1 - c1 + a);
-    double p1, p2 = 0.0;
-    if (tails.NegativeAssociation) {
-      // First tail from a down to the lowest a; second from the highest down, as long as its
-      // sum stays within the first (the sums grow as the start index falls).
-      p1 = from_low_[i];
-      std::size_t low = 0, high = count;  // first index whose sum is within
-      while (low < high) {
-        const std::size_t mid = low + (high - low) / 2;
-        if (WithinFirstTail(from_high_[mid], p1)) {
-          high = mid;
-        } else {
-          low = mid + 1;
-        }
-      }
-      if (low < count) p2 = from_high_[low];
-    } else {
-      // First tail from a up to the highest a; second from the lowest up.
-      p1 = from_high_[i];
-      std::size_t low = 0, high = count;  // first index whose sum is beyond
-      while (low < high) {
-        const std::size_t mid = low + (high - low) / 2;
-        if (WithinFirstTail(from_low_[mid], p1)) {
-          low = mid + 1;
-        } else {
-          high = mid;
-        }
-      }
-      if (low > 0) p2 = from_low_[low - 1];
-    }
+  // a d - b c = a n - r1 c1 grows with a: the tables of negative association come first.
+  std::size_t positive = 0;
+  while (positive < count) {
+    const int64_t a = lowest + static_cast<int64_t>(positive);
+    if (!FisherTailsOf(a, r1 - a, c1 - a, n - r1 - c1 + a).NegativeAssociation) break;
+    ++positive;
+  }
+  // Negative: the first tail runs from a down to the lowest a and grows with a; the second
+  // starts at the highest a and runs down while its sum stays within the first, so its start
+  // only falls as a rises.
+  std::size_t start = count;  // first index whose sum from the top is within
+  for (std::size_t i = 0; i < positive; ++i) {
+    const double p1 = from_low_[i];
+    while (start > 0 && WithinFirstTail(from_high_[start - 1], p1)) --start;
+    const double p2 = start < count ? from_high_[start] : 0.0;
+    out[i] = static_cast<float>(std::min(p1 + p2, 1.0));
+  }
+  // Positive, from the highest a down: the first tail runs from a up to the highest a and grows
+  // as a falls; the second runs up from the lowest a, its end only rising.
+  std::size_t end = 0;  // first index whose sum from the bottom is beyond
+  for (std::size_t i = count; i-- > positive;) {
+    const double p1 = from_high_[i];
+    while (end < count && WithinFirstTail(from_low_[end], p1)) ++end;
+    const double p2 = end > 0 ? from_low_[end - 1] : 0.0;
     out[i] = static_cast<float>(std::min(p1 + p2, 1.0));
   }
   ++cached_margins_;
