@@ -5,11 +5,12 @@
 // first), on one table of ln(i!) built for n before the scan.
 //
 // With n fixed, the P of a table depends only on its margins (a + b, a + c) and on a, and the
-// pairs of a scan share few margins (the allele counts of their sites). So the first table of
-// each margin pair works out the P of every table with those margins at once: the hypergeometric
-// terms of all of them, their running sums from either extreme, and for each a its first tail
-// from one sum and its second by bisection on the other. The P values are kept as floats up to
-// a memory bound; beyond it, and for totals other than n, each table is worked out on its own.
+// pairs of a scan share few margins (the allele counts of their sites). So once a margin pair
+// has been seen often enough, the P of every table with those margins is worked out at once:
+// the hypergeometric terms of all of them, their running sums from either extreme, and for each
+// a its first tail from one sum and its second where the other stops fitting within the first.
+// The P values are kept as floats up to a memory bound; beyond it, for margins seen rarely, and
+// for totals other than n, each table is worked out on its own (the direct way).
 //
 // The direct way has two short cuts:
 // - the first tail stops once a term is below half the last place of the sum: the terms fall
