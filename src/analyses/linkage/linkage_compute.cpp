@@ -46,7 +46,8 @@ class PairTester {
       : fisher_(options.Fisher),
         chi_(options.ChiSquare),
         result_(result),
-        // The table of ln(i!) is built once for n, for all the pairs.
+        // The table of ln(i!) is built once for n, and the P values of a margin pair kept, for
+        // all the pairs.
         exact_(options.Fisher ? n : 1) {
     if (!fisher_ && !chi_) return;
     alpha_ = BonferroniAlpha(pairs);
