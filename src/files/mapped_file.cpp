@@ -3,6 +3,8 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include <algorithm>
+
 namespace ovelt {
 namespace {
 
@@ -25,12 +27,13 @@ MappedFile::~MappedFile() {
   if (data_ != nullptr) ::munmap(const_cast<char*>(data_), size_);
 }
 
-void MappedFile::Release(size_t offset) {
+void MappedFile::Release(size_t from, size_t to) {
   if (data_ == nullptr) return;
-  const size_t end = offset / PageSize() * PageSize();
-  if (end <= released_) return;
-  ::madvise(const_cast<char*>(data_) + released_, end - released_, MADV_DONTNEED);
-  released_ = end;
+  const size_t page = PageSize();
+  const size_t first = (from + page - 1) / page * page;
+  const size_t end = std::min(to, size_) / page * page;
+  if (end <= first) return;
+  ::madvise(const_cast<char*>(data_) + first, end - first, MADV_DONTNEED);
 }
 
 }  // namespace ovelt

@@ -21,14 +21,13 @@ class MappedFile {
   [[nodiscard]] bool valid() const { return data_ != nullptr || size_ == 0; }
   [[nodiscard]] std::string_view bytes() const { return {data_, data_ ? size_ : 0}; }
 
-  // Hands back the whole pages below `offset`: nothing before it will be read again. Reading
-  // them anyway would still see the file's bytes (they come back from the page cache).
-  void Release(size_t offset);
+  // Hands back the whole pages within [from, to): they are not needed for now. Reading them
+  // again later still sees the file's bytes (they come back from the page cache).
+  void Release(size_t from, size_t to);
 
  private:
   const char* data_ = nullptr;
   size_t size_ = 0;
-  size_t released_ = 0;
 };
 
 }  // namespace ovelt

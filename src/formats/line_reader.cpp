@@ -33,7 +33,7 @@ LineReader::LineReader(std::FILE* file, int64_t file_size, ReadProgress progress
 }
 
 LineReader::LineReader(std::string_view bytes, ReadProgress progress,
-                       std::function<void(size_t)> release)
+                       std::function<void(size_t, size_t)> release)
     : data_(bytes.data()),
       end_(bytes.size()),
       at_eof_(true),
@@ -81,7 +81,8 @@ bool LineReader::Refill() {
 bool LineReader::Next(std::string_view& line) {
   // The line handed out last is done with: what lies before this one is never read again.
   if (release_ && !marked_ && pos_ >= next_release_) {
-    release_(pos_);
+    release_(released_, pos_);
+    released_ = pos_;
     next_release_ = pos_ + kReleaseStep;
   }
   for (;;) {
@@ -137,6 +138,16 @@ bool LineReader::Next(std::string_view& line) {
     ReportProgress();
     return true;
   }
+}
+
+std::optional<std::string_view> LineReader::RestAsText() {
+  if (file_ != nullptr || skip_lf_ || pos_ >= end_ || data_[end_ - 1] != '\n') return std::nullopt;
+  if (std::memchr(data_ + pos_, '\r', end_ - pos_) != nullptr) return std::nullopt;
+  const std::string_view rest(data_ + pos_, end_ - pos_);
+  consumed_ += static_cast<int64_t>(end_ - pos_);
+  pos_ = end_;
+  ReportProgress();
+  return rest;
 }
 
 std::string_view LineReader::Peek(size_t max_bytes) {

@@ -15,6 +15,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,10 +29,11 @@ class LineReader {
   // Reads the bytes of an open file (not owned; it stays open while the reader is used).
   LineReader(std::FILE* file, int64_t file_size, ReadProgress progress = {});
   // Reads bytes held in memory (not copied; they must outlive the reader). `release`, when
-  // given, is told now and then the offset below which no byte will be read again (no mark is
-  // held there), so that the owner of the bytes may give their memory back.
+  // given, is told now and then of a range [from, to) of bytes that are not needed for now (no
+  // mark is held there), so that their owner may give the memory back (the bytes must still
+  // read the same if they are read again).
   explicit LineReader(std::string_view bytes, ReadProgress progress = {},
-                      std::function<void(size_t)> release = {});
+                      std::function<void(size_t, size_t)> release = {});
 
   LineReader(const LineReader&) = delete;
   LineReader& operator=(const LineReader&) = delete;
@@ -50,6 +52,16 @@ class LineReader {
   void Rewind();
   // Forgets the mark: bytes before the next line need not be kept any longer.
   void Unmark() { marked_ = false; }
+
+  // All the bytes not yet handed out, as they stand, when they are held in memory, have "\n"
+  // alone as line end and end with one: the whole text a reader may want, without a copy. They
+  // count as read. Nothing otherwise (the caller gathers the lines instead).
+  std::optional<std::string_view> RestAsText();
+  // Tells the owner of bytes held in memory (see the constructor) that the bytes [from, to)
+  // (from the start of the data) are not needed for now.
+  void Release(size_t from, size_t to) {
+    if (release_) release_(from, to);
+  }
 
   // Bytes of the data not yet handed out as lines (an upper bound of what is left to read).
   [[nodiscard]] int64_t BytesLeft() const { return total_ - consumed_; }
@@ -96,7 +108,8 @@ class LineReader {
   int64_t total_ = 0;
   int64_t consumed_ = 0;
   ReadProgress progress_;
-  std::function<void(size_t)> release_;
+  std::function<void(size_t, size_t)> release_;
+  size_t released_ = 0;
   size_t next_release_ = 0;
   int last_percent_ = -1;
   int64_t next_report_at_ = 0;

@@ -15,7 +15,8 @@ bool IsBlockEnd(const NexusToken& token) {
 
 // Reads the commands of a block from the lexer's position up to its END (consumed, with its
 // ";") or the end of the text. `keep` false: the commands are scanned, not stored.
-void ReadCommands(NexusLexer& lexer, bool keep, std::vector<NexusCommand>& commands) {
+void ReadCommands(NexusLexer& lexer, bool keep, std::vector<NexusCommand>& commands,
+                  const std::function<void(size_t, size_t)>& passed) {
   for (;;) {
     NexusToken token = lexer.Next();
     if (token.type == NexusToken::kEnd) return;
@@ -29,6 +30,19 @@ void ReadCommands(NexusLexer& lexer, bool keep, std::vector<NexusCommand>& comma
     command.begin = token.begin;
     const bool matrix = command.name == "MATRIX";
     command.matrix_begin = token.end;
+    if (matrix) {
+      // The cells are read later from the text: here only their end is wanted.
+      const size_t from = lexer.pos();
+      if (lexer.SkipToSemicolon()) {
+        if (passed) passed(from, lexer.pos());
+        const NexusToken semicolon = lexer.Next();
+        command.matrix_end = semicolon.begin;
+        command.end = semicolon.end;
+        if (keep) commands.push_back(std::move(command));
+        continue;
+      }
+      lexer.set_pos(from);  // no ";": the token walk below finds where the content ends
+    }
     for (;;) {
       const size_t before = lexer.pos();
       NexusToken arg = lexer.Next();
@@ -64,7 +78,8 @@ NexusBlockKind NexusBlockKindOf(const std::string& name) {
   return NexusBlockKind::kOther;
 }
 
-NexusFile SplitNexusBlocks(std::string_view text) {
+NexusFile SplitNexusBlocks(std::string_view text,
+                           const std::function<void(size_t, size_t)>& passed) {
   NexusLexer lexer(text);
   const NexusToken first = lexer.Next();
   if (!first.is_word("#NEXUS")) throw NexusFault(kNexusNoToken);
@@ -82,8 +97,11 @@ NexusFile SplitNexusBlocks(std::string_view text) {
     raw.block.Kind = NexusBlockKindOf(name.text);
     raw.block.Leading = std::string(text.substr(leading_from, token.begin - leading_from));
     if (lexer.Peek().is(';')) (void)lexer.Next();
-    ReadCommands(lexer, raw.block.Kind != NexusBlockKind::kOther, raw.commands);
-    raw.block.Text = std::string(text.substr(token.begin, lexer.pos() - token.begin));
+    ReadCommands(lexer, raw.block.Kind != NexusBlockKind::kOther, raw.commands, passed);
+    raw.text_begin = token.begin;
+    raw.text_end = lexer.pos();
+    if (raw.block.Kind != NexusBlockKind::kData && raw.block.Kind != NexusBlockKind::kCharacters)
+      raw.block.Text = std::string(text.substr(token.begin, lexer.pos() - token.begin));
     leading_from = lexer.pos();
     file.blocks.push_back(std::move(raw));
   }

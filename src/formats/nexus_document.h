@@ -48,7 +48,8 @@ struct NexusBlock {
   // this block's "BEGIN".
   std::string Leading;
   // The whole block as it stands in the file, from "BEGIN" through "END;" (or "ENDBLOCK;").
-  // A last block that the file ends without its END runs to the end of the file.
+  // A last block that the file ends without its END runs to the end of the file. Empty for the
+  // DATA or CHARACTERS block whose matrix was read: it is written anew from the data.
   std::string Text;
   // True when the reader took the block's content into the active data.
   bool Read = false;

@@ -1,6 +1,12 @@
 #include "formats/nexus_lexer.h"
 
+#include <cstring>
+
 #include "core/text_case.h"
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 namespace ovelt {
 
@@ -40,7 +46,9 @@ bool NexusToken::is_word(std::string_view upper_text) const {
   return true;
 }
 
-std::string NexusToken::upper() const { return ToUpperAscii(text); }
+std::string NexusToken::upper() const {
+  return ToUpperAscii(text);
+}
 
 size_t SkipNexusComment(std::string_view text, size_t pos) {
   int depth = 0;
@@ -52,6 +60,63 @@ size_t SkipNexusComment(std::string_view text, size_t pos) {
     }
   }
   return text.size();
+}
+
+namespace {
+
+bool StopsTheSkip(char c) {
+  return c == ';' || c == '[' || c == '\'' || c == '"';
+}
+
+// The first of ";", "[" and the two quotation marks at or after `pos`, or the end.
+size_t NextStop(std::string_view text, size_t pos) {
+  const char* p = text.data();
+  const size_t n = text.size();
+#if defined(__SSE2__)
+  const __m128i semicolon = _mm_set1_epi8(';'), open = _mm_set1_epi8('[');
+  const __m128i single = _mm_set1_epi8('\''), twin = _mm_set1_epi8('"');
+  while (pos + 16 <= n) {
+    const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + pos));
+    const __m128i hit =
+        _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(v, semicolon), _mm_cmpeq_epi8(v, open)),
+                     _mm_or_si128(_mm_cmpeq_epi8(v, single), _mm_cmpeq_epi8(v, twin)));
+    const auto mask = static_cast<unsigned>(_mm_movemask_epi8(hit));
+    if (mask != 0) return pos + static_cast<size_t>(__builtin_ctz(mask));
+    pos += 16;
+  }
+#endif
+  while (pos < n && !StopsTheSkip(p[pos])) ++pos;
+  return pos;
+}
+
+}  // namespace
+
+// A quotation mark is punctuation, so it always opens a token: every other character, words and
+// punctuation alike, is passed over until a ";" outside comments and quoted names.
+bool NexusLexer::SkipToSemicolon() {
+  for (;;) {
+    pos_ = NextStop(text_, pos_);
+    if (pos_ >= text_.size()) return false;
+    const char c = text_[pos_];
+    if (c == ';') return true;
+    if (c == '[') {
+      pos_ = SkipNexusComment(text_, pos_);
+      continue;
+    }
+    // A quoted token, its doubled marks included.
+    ++pos_;
+    while (pos_ < text_.size()) {
+      if (text_[pos_] == c) {
+        if (pos_ + 1 < text_.size() && text_[pos_ + 1] == c) {
+          pos_ += 2;
+          continue;
+        }
+        ++pos_;
+        break;
+      }
+      ++pos_;
+    }
+  }
 }
 
 void NexusLexer::SkipBlanksAndComments() {

@@ -47,6 +47,11 @@ class NexusLexer {
   [[nodiscard]] size_t pos() const { return pos_; }
   void set_pos(size_t pos) { pos_ = pos; }
 
+  // Moves to the next ";" token (not taken) past every other token, comment and quoted name,
+  // without making the tokens: the fast way over a MATRIX. True when one was found; otherwise
+  // the position is the end of the text.
+  bool SkipToSemicolon();
+
  private:
   void SkipBlanksAndComments();
 

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 #include "formats/nexus_errors.h"
+#include "formats/sequence_cells.h"
 
 namespace ovelt {
 
@@ -35,7 +37,17 @@ CellCodes MakeCellCodes(const NexusMatrixShape& shape) {
   return codes;
 }
 
-char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+// True when A, C, G, T, "-" and "?" are each stored as themselves.
+bool CopiesPlainCells(const CellCodes& codes) {
+  for (char c : {'A', 'C', 'G', 'T', '-', '?'}) {
+    if (codes[static_cast<unsigned char>(c)] != static_cast<uint8_t>(c)) return false;
+  }
+  return true;
+}
+
+char Upper(char c) {
+  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
 
 // A row's name at `pos`: a quoted name, or the run up to a blank or a comment.
 NexusToken ReadRowName(std::string_view text, size_t& pos) {
@@ -56,21 +68,37 @@ NexusToken ReadRowName(std::string_view text, size_t& pos) {
 
 class MatrixReader {
  public:
+  // Every row is made at once, its cells written in place as they come (the caller has checked
+  // that the text is long enough to hold NTAX x NCHAR cells).
   MatrixReader(std::string_view text, const NexusMatrixShape& shape)
-      : text_(text), shape_(shape), codes_(MakeCellCodes(shape)) {
-    result_.rows.resize(static_cast<size_t>(shape.ntax));
+      : text_(text),
+        shape_(shape),
+        codes_(MakeCellCodes(shape)),
+        plain_(CopiesPlainCells(codes_)),
+        filled_(static_cast<size_t>(shape.ntax), 0) {
+    result_.cells.set_sites(shape.nchar);
+    result_.cells.reserve_sequences(shape.ntax);
+    rows_.reserve(static_cast<size_t>(shape.ntax));
+    for (int32_t t = 0; t < shape.ntax; ++t)
+      rows_.push_back(result_.cells.append_unfilled_sequence());
   }
 
   NexusMatrix Sequential() {
     size_t p = 0;
     for (int32_t t = 0; t < shape_.ntax; ++t) {
+      Progress(p);
       SkipSpace(p);
       if (p >= text_.size()) throw NexusFault(kNexusMissingCell, t + 1);
       if (shape_.row_names) result_.names.push_back(ReadRowName(text_, p));
-      std::string& row = Row(t);
       bool line_start = false;
-      while (static_cast<int32_t>(row.size()) < shape_.nchar) {
+      while (Filled(t) < shape_.nchar) {
         if (p >= text_.size()) throw NexusFault(kNexusMissingCell, t + 1);
+        const size_t run = CopyRun(t, text_.data() + p, text_.size() - p);
+        if (run > 0) {
+          p += run;
+          line_start = false;
+          continue;
+        }
         const char c = text_[p];
         if (c == '\n') {
           line_start = true;
@@ -100,15 +128,18 @@ class MatrixReader {
   NexusMatrix Interleaved() {
     size_t p = 0;
     int64_t line_index = 0;
-    std::string line;
+    std::string copy;
     while (p < text_.size()) {
-      NextLine(p, line);
+      Progress(p);
+      const std::string_view line = NextLine(p, copy);
       size_t q = line.find_first_not_of(" \t\r");
       if (q == std::string::npos) continue;
       const int32_t t = static_cast<int32_t>(line_index % shape_.ntax);
       const bool first_block = line_index < shape_.ntax;
       ++line_index;
-      if (shape_.row_names) {
+      if (shape_.row_names && !first_block && SameUnquotedName(line, q, t)) {
+        // The row's name as the first block wrote it, letter for letter: the common case.
+      } else if (shape_.row_names) {
         size_t after = q;
         const NexusToken name = ReadRowName(line, after);
         if (first_block) {
@@ -120,19 +151,21 @@ class MatrixReader {
           q = after;
         }
       }
-      std::string& row = Row(t);
-      for (; q < line.size(); ++q) {
+      while (q < line.size()) {
+        const size_t run = CopyRun(t, line.data() + q, line.size() - q);
+        q += run;
+        if (q >= line.size()) break;
+        // A cell beyond NCHAR: the run stopped at the full row, or the character below is one.
         const char c = line[q];
         const uint8_t code = codes_[static_cast<unsigned char>(c)];
+        ++q;
         if (code == kSkip) continue;
-        if (static_cast<int32_t>(row.size()) >= shape_.nchar && code != kInvalid)
-          throw NexusFault(shape_.block_error);
+        if (Filled(t) >= shape_.nchar && code != kInvalid) throw NexusFault(shape_.block_error);
         Store(t, code, c);
       }
     }
     for (int32_t t = 0; t < shape_.ntax; ++t) {
-      if (static_cast<int32_t>(Row(t).size()) < shape_.nchar)
-        throw NexusFault(kNexusMissingCell, t + 1);
+      if (Filled(t) < shape_.nchar) throw NexusFault(kNexusMissingCell, t + 1);
     }
     if (shape_.row_names && static_cast<int32_t>(result_.names.size()) < shape_.ntax)
       throw NexusFault(kNexusMissingCell, static_cast<long>(result_.names.size()) + 1);
@@ -140,7 +173,49 @@ class MatrixReader {
   }
 
  private:
-  std::string& Row(int32_t t) { return result_.rows[static_cast<size_t>(t)]; }
+  // Says how far the text is read, every few megabytes.
+  void Progress(size_t p) {
+    if (!shape_.read || p < next_progress_) return;
+    shape_.read(read_to_, p);
+    read_to_ = p;
+    next_progress_ = p + (size_t{2} << 20);
+  }
+
+  // True, with `q` moved past it, when the word at `q` is the unquoted name of row t exactly as
+  // the first block gave it (a word runs to a blank or a comment, as ReadRowName reads it).
+  bool SameUnquotedName(std::string_view line, size_t& q, int32_t t) const {
+    const NexusToken& first = result_.names[static_cast<size_t>(t)];
+    if (first.type != NexusToken::kWord || line[q] == '\'' || line[q] == '"') return false;
+    size_t end = q;
+    while (end < line.size() && !IsNexusBlank(line[end]) && line[end] != '[') ++end;
+    if (line.substr(q, end - q) != first.text) return false;
+    q = end;
+    return true;
+  }
+
+  [[nodiscard]] int32_t Filled(int32_t t) const { return filled_[static_cast<size_t>(t)]; }
+
+  // Copies the runs of plain cells and of matching symbols that open `text` (at most what row t
+  // still takes, and matching symbols only where the first row has its cells) into the row;
+  // the number of characters taken. The characters after them take the one-by-one rules.
+  size_t CopyRun(int32_t t, const char* text, size_t n) {
+    char* row = rows_[static_cast<size_t>(t)];
+    int32_t& filled = filled_[static_cast<size_t>(t)];
+    size_t taken = 0;
+    for (;;) {
+      const auto room = std::min(n - taken, static_cast<size_t>(shape_.nchar - filled));
+      size_t run = plain_ ? PlainCellRun(text + taken, room) : 0;
+      std::memcpy(row + filled, text + taken, run);
+      if (run == 0 && shape_.match != '\0' && t > 0 && Filled(0) > filled) {
+        run = SameByteRun(text + taken, std::min(room, static_cast<size_t>(Filled(0) - filled)),
+                          shape_.match);
+        std::memcpy(row + filled, rows_[0] + filled, run);
+      }
+      if (run == 0) return taken;
+      filled += static_cast<int32_t>(run);
+      taken += run;
+    }
+  }
 
   void SkipSpace(size_t& p) const {
     while (p < text_.size()) {
@@ -154,44 +229,58 @@ class MatrixReader {
     }
   }
 
-  // The next line from `p`, comments removed (a comment may run over several lines).
-  void NextLine(size_t& p, std::string& line) const {
-    line.clear();
+  // The next line from `p`, comments removed (a comment may run over several lines): the text
+  // itself when the line holds no comment, else a copy in `copy`.
+  std::string_view NextLine(size_t& p, std::string& copy) const {
+    const size_t from = p;
+    const void* lf = std::memchr(text_.data() + p, '\n', text_.size() - p);
+    const size_t end =
+        lf ? static_cast<size_t>(static_cast<const char*>(lf) - text_.data()) : text_.size();
+    if (std::memchr(text_.data() + p, '[', end - p) == nullptr) {
+      p = end < text_.size() ? end + 1 : end;
+      return text_.substr(from, end - from);
+    }
+    copy.clear();
     while (p < text_.size() && text_[p] != '\n') {
       if (text_[p] == '[') {
         p = SkipNexusComment(text_, p);
       } else {
-        line += text_[p++];
+        copy += text_[p++];
       }
     }
     if (p < text_.size()) ++p;
+    return copy;
   }
 
-  [[nodiscard]] bool AllCells(const std::string& line) const {
+  [[nodiscard]] bool AllCells(std::string_view line) const {
     return std::all_of(line.begin(), line.end(), [this](char c) {
       return codes_[static_cast<unsigned char>(c)] != kInvalid;
     });
   }
 
   void Store(int32_t t, uint8_t code, char c) {
-    std::string& row = Row(t);
     if (code == kInvalid) throw NexusFault(kNexusInvalidCell, t + 1, Upper(c));
+    const int32_t site = Filled(t);
+    char& cell = rows_[static_cast<size_t>(t)][site];
     if (code == kMatch) {
-      const size_t site = row.size();
-      if (t == 0 || Row(0).size() <= site) throw NexusFault(kNexusMatchInFirst, static_cast<long>(site) + 1);
-      row += Row(0)[site];
-      return;
+      if (t == 0 || Filled(0) <= site)
+        throw NexusFault(kNexusMatchInFirst, static_cast<long>(site) + 1);
+      cell = rows_[0][site];
+    } else {
+      cell = static_cast<char>(code);
     }
-    if (row.capacity() == 0) {
-      row.reserve(std::min(static_cast<size_t>(shape_.nchar), text_.size()));
-    }
-    row += static_cast<char>(code);
+    ++filled_[static_cast<size_t>(t)];
   }
 
   std::string_view text_;
   const NexusMatrixShape& shape_;
   CellCodes codes_;
+  bool plain_;
   NexusMatrix result_;
+  std::vector<char*> rows_;      // where each row's cells go
+  std::vector<int32_t> filled_;  // how many of them have come
+  size_t next_progress_ = 0;
+  size_t read_to_ = 0;
 };
 
 }  // namespace

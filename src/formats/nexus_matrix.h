@@ -15,10 +15,12 @@
 // that row's name and that holds cells only has no name (PhyML writes later blocks so).
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "core/seq_matrix.h"
 #include "formats/nexus_lexer.h"
 
 namespace ovelt {
@@ -27,16 +29,18 @@ struct NexusMatrixShape {
   int32_t ntax = 0;
   int32_t nchar = 0;
   bool interleaved = false;
-  bool row_names = true;   // false for FORMAT NOLABELS: the rows carry no names
+  bool row_names = true;  // false for FORMAT NOLABELS: the rows carry no names
   char gap = '-';
   char missing = '?';
-  char match = '\0';       // '\0': no matching symbol
-  int block_error = 71;    // code of a matrix with more than it should hold
+  char match = '\0';     // '\0': no matching symbol
+  int block_error = 71;  // code of a matrix with more than it should hold
+  // Told now and then of a part [from, to) of the content that is read (empty: nobody).
+  std::function<void(size_t, size_t)> read;
 };
 
 struct NexusMatrix {
-  std::vector<NexusToken> names;    // per row, in file order (empty without row names)
-  std::vector<std::string> rows;    // NCHAR stored cells per row, in file order
+  std::vector<NexusToken> names;  // per row, in file order (empty without row names)
+  SeqMatrix cells;                // NCHAR stored cells per row, NTAX rows in file order
 };
 
 // Reads the content of a MATRIX command (from after the word to before its ";"). Throws

@@ -45,7 +45,8 @@ int ChooseDataBlock(const NexusFile& file) {
 
 // The TAXA block that the CHARACTERS block `data` links, or -1.
 int ChooseTaxaBlock(const NexusFile& file, int data) {
-  const std::string link = NexusCommandValue(file.blocks[static_cast<size_t>(data)], "LINK", "TAXA");
+  const std::string link =
+      NexusCommandValue(file.blocks[static_cast<size_t>(data)], "LINK", "TAXA");
   int last_before = -1;
   int first = -1;
   for (size_t i = 0; i < file.blocks.size(); ++i) {
@@ -100,7 +101,8 @@ TaxaInfo ReadTaxaBlock(NexusRawBlock& raw, std::string_view text) {
 
 class NexusReader {
  public:
-  explicit NexusReader(std::string_view text) : text_(text), file_(SplitNexusBlocks(text)) {
+  NexusReader(std::string_view text, NexusTextRead read)
+      : text_(text), read_(std::move(read)), file_(SplitNexusBlocks(text, read_)) {
     FormatAttributes& format = extras_.Format;
     format.Interleaved = 0;
     format.BlockLength = 60;
@@ -194,6 +196,11 @@ class NexusReader {
     shape.block_error = block_error_;
     const std::string_view content =
         text_.substr(matrix->matrix_begin, matrix->matrix_end - matrix->matrix_begin);
+    if (read_) {
+      shape.read = [this, begin = matrix->matrix_begin](size_t from, size_t to) {
+        read_(begin + from, begin + to);
+      };
+    }
     NexusMatrix cells;
     try {
       cells = ReadNexusMatrix(content, shape);
@@ -232,7 +239,7 @@ class NexusReader {
 
   // Rows in taxon order with their names: the labels' order and names where there are labels.
   void PlaceRows(NexusMatrix cells, const std::vector<NexusToken>& labels) {
-    rows_ = std::move(cells.rows);
+    rows_ = std::move(cells.cells);
     if (labels.empty()) {
       for (const NexusToken& name : cells.names) {
         names_.push_back(NexusNameText(name));
@@ -262,9 +269,29 @@ class NexusReader {
       taken[it->second] = true;
       order[r] = it->second;
     }
-    std::vector<std::string> placed(rows_.size());
-    for (size_t r = 0; r < rows_.size(); ++r) placed[order[r]] = std::move(rows_[r]);
-    rows_ = std::move(placed);
+    PermuteRows(rows_, order);
+  }
+
+  // Moves row r of `matrix` to row order[r] (0-based), cycle by cycle through one spare row.
+  static void PermuteRows(SeqMatrix& matrix, const std::vector<size_t>& order) {
+    const auto sites = static_cast<size_t>(matrix.sites());
+    std::string spare(sites, '\0'), held(sites, '\0');
+    std::vector<bool> done(order.size(), false);
+    for (size_t start = 0; start < order.size(); ++start) {
+      if (done[start] || order[start] == start) continue;
+      // Carry the row of `start` to its place, the row found there to its own, and so on.
+      std::memcpy(spare.data(), matrix.sequence(static_cast<int32_t>(start) + 1), sites);
+      size_t r = start;
+      do {
+        const size_t to = order[r];
+        char* place = matrix.mutable_sequence(static_cast<int32_t>(to) + 1);
+        std::memcpy(held.data(), place, sites);
+        std::memcpy(place, spare.data(), sites);
+        spare.swap(held);
+        done[r] = true;
+        r = to;
+      } while (r != start);
+    }
   }
 
   void ReadOtherBlocks() {
@@ -307,14 +334,19 @@ class NexusReader {
     loaded.NumSites = nchar_;
     loaded.Interleaved = extras_.Format.Interleaved;
     loaded.BlockLength = 60;
-    loaded.Matrix = SeqMatrix(nchar_, ntax_);
+    loaded.Matrix = std::move(rows_);
     for (int32_t t = 0; t < ntax_; ++t) {
-      std::string& row = rows_[static_cast<size_t>(t)];
-      std::memcpy(loaded.Matrix.mutable_sequence(t + 1), row.data(), row.size());
-      std::string().swap(row);  // each row's memory goes as soon as the matrix holds it
       loaded.Names.push_back(FixedName(names_[static_cast<size_t>(t)]));
     }
-    for (NexusRawBlock& raw : file_.blocks) extras_.Document.Blocks.push_back(std::move(raw.block));
+    for (NexusRawBlock& raw : file_.blocks) {
+      // A DATA or CHARACTERS block left unread is written back as it stood; the one whose
+      // matrix was read is written anew from the data, and its text is not kept.
+      const bool data_kind =
+          raw.block.Kind == NexusBlockKind::kData || raw.block.Kind == NexusBlockKind::kCharacters;
+      if (data_kind && !raw.block.Read)
+        raw.block.Text = std::string(text_.substr(raw.text_begin, raw.text_end - raw.text_begin));
+      extras_.Document.Blocks.push_back(std::move(raw.block));
+    }
     extras_.Document.Trailing = std::move(file_.trailing);
     extras_.Document.TaxonNames = std::move(written_names_);
     loaded.Nexus = std::move(extras_);
@@ -322,6 +354,7 @@ class NexusReader {
   }
 
   std::string_view text_;
+  NexusTextRead read_;
   NexusFile file_;
   NexusExtras extras_;
   TaxaInfo taxa_;
@@ -329,7 +362,7 @@ class NexusReader {
   int block_error_ = kNexusDataBlock;
   int32_t ntax_ = 0;
   int32_t nchar_ = 0;
-  std::vector<std::string> rows_;
+  SeqMatrix rows_;
   std::vector<std::string> names_;
   std::vector<std::string> written_names_;  // as the file writes them, for an update
   std::vector<std::string> taxon_keys_;
@@ -338,9 +371,22 @@ class NexusReader {
 
 }  // namespace
 
-LoadedFile ReadNexusText(std::string_view text) { return NexusReader(text).Read(); }
+LoadedFile ReadNexusText(std::string_view text, NexusTextRead read) {
+  return NexusReader(text, std::move(read)).Read();
+}
 
 LoadedFile ReadNexus(LineReader& in, const std::string& path) {
+  // A file held in memory with "\n" line ends is its own text: read where it lies, its matrix
+  // given back to the system as it is read.
+  const auto base = static_cast<size_t>(in.TotalBytes() - in.BytesLeft());
+  if (const std::optional<std::string_view> whole = in.RestAsText()) {
+    try {
+      return ReadNexusText(
+          *whole, [&in, base](size_t from, size_t to) { in.Release(base + from, base + to); });
+    } catch (const NexusFault& fault) {
+      throw ReadError(DataFileErrorText(path, fault.what()));
+    }
+  }
   std::string text;
   text.reserve(static_cast<size_t>(std::max<int64_t>(in.TotalBytes(), 0)));
   std::string_view line;

@@ -21,6 +21,7 @@
 //   20 characters may) stay two taxa;
 // - lists take blanks around "-", any step, and members by name (see nexus_lists.h).
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -29,7 +30,11 @@
 
 namespace ovelt {
 
-// Reads a NEXUS text whose lines end in "\n". Throws NexusFault.
-[[nodiscard]] LoadedFile ReadNexusText(std::string_view text);
+// Tells the holder of the text that the bytes [from, to) of the text are not needed for now.
+using NexusTextRead = std::function<void(size_t, size_t)>;
+
+// Reads a NEXUS text whose lines end in "\n". Throws NexusFault. `read`, when given, is told of
+// the parts of the matrix read so far (they may be read again, and must read the same).
+[[nodiscard]] LoadedFile ReadNexusText(std::string_view text, NexusTextRead read = {});
 
 }  // namespace ovelt

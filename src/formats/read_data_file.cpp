@@ -89,7 +89,8 @@ LoadedFile ReadDataFile(const std::string& path, Platform& platform, const ReadP
   if (sized) {
     MappedFile map(::fileno(file), static_cast<size_t>(info.st_size));
     if (map.valid()) {
-      LineReader in(map.bytes(), progress, [&map](size_t offset) { map.Release(offset); });
+      LineReader in(map.bytes(), progress,
+                    [&map](size_t from, size_t to) { map.Release(from, to); });
       return ReadGuarded(in, path, std::nullopt, ask_mega);
     }
   }

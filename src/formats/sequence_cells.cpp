@@ -8,11 +8,9 @@
 #endif
 
 namespace ovelt {
-namespace {
 
-// The length of the run of A, C, G, T, "-" and "?" that opens `p` (at most `n` bytes), found
-// sixteen bytes at a time.
-size_t PlainRun(const char* p, size_t n) {
+// Found sixteen bytes at a time.
+size_t PlainCellRun(const char* p, size_t n) {
   size_t i = 0;
 #if defined(__SSE2__)
   const __m128i a = _mm_set1_epi8('A'), c = _mm_set1_epi8('C'), g = _mm_set1_epi8('G');
@@ -45,7 +43,20 @@ size_t PlainRun(const char* p, size_t n) {
   return i;
 }
 
-}  // namespace
+size_t SameByteRun(const char* p, size_t n, char c) {
+  size_t i = 0;
+#if defined(__SSE2__)
+  const __m128i want = _mm_set1_epi8(c);
+  while (i + 16 <= n) {
+    const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + i));
+    const auto mask = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(v, want)));
+    if (mask != 0xFFFFu) return i + static_cast<size_t>(__builtin_ctz(~mask));
+    i += 16;
+  }
+#endif
+  while (i < n && p[i] == c) ++i;
+  return i;
+}
 
 bool SequenceCells::Grow() {
   if (count_ >= limit_) return false;
@@ -90,7 +101,7 @@ struct CellWalker {
     while (i < n) {
       // Runs of cells stored as they are written, copied whole.
       if (table.plain_copies) {
-        const size_t run = PlainRun(p + i, std::min(n - i, room - count));
+        const size_t run = PlainCellRun(p + i, std::min(n - i, room - count));
         std::memcpy(out + count, p + i, run);
         count += run;
         i += run;

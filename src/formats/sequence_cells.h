@@ -91,6 +91,13 @@ struct WalkResult {
 [[nodiscard]] WalkResult WalkCells(const CellTable& table, std::string_view text,
                                    SequenceCells& cells, const MatchRule& match, WalkState& state);
 
+// The length of the run of A, C, G, T, "-" and "?" that opens `text` (at most `n` bytes): cells
+// that a table with `plain_copies` stores as they stand, so that the run can be copied whole.
+[[nodiscard]] size_t PlainCellRun(const char* text, size_t n);
+
+// The length of the run of `c` that opens `text` (at most `n` bytes).
+[[nodiscard]] size_t SameByteRun(const char* text, size_t n, char c);
+
 // Counts the characters of `text` other than blank and tab.
 [[nodiscard]] size_t CountNonBlank(std::string_view text);
 

@@ -16,20 +16,22 @@ namespace {
 using testing::ReadNexusString;
 using testing::TwoByFour;
 
-int Codon(const char* text) { return CodonIndex(text[0], text[1], text[2]); }
+int Codon(const char* text) {
+  return CodonIndex(text[0], text[1], text[2]);
+}
 
 TEST(NexusOwnBlock, GenomeAndLocation) {
-  const LoadedFile f = ReadNexusString(TwoByFour(
-      "BEGIN Ovelt;\n   Genome= haploid;\n   ChromosomalLocation= Mitochondrial;\n"
-      "   Oveltversion= Ver. 4.00.5;\nEND;\n"));
+  const LoadedFile f = ReadNexusString(
+      TwoByFour("BEGIN Ovelt;\n   Genome= haploid;\n   ChromosomalLocation= Mitochondrial;\n"
+                "   Oveltversion= Ver. 4.00.5;\nEND;\n"));
   EXPECT_EQ(f.Nexus->Format.GenomeState, 1);
   EXPECT_EQ(f.Nexus->Format.ChromosomalLocation, 6);
   EXPECT_TRUE(f.Nexus->Warnings.empty());
 }
 
 TEST(NexusOwnBlock, UnknownValuesWarnAndTakeTheDefaults) {
-  const LoadedFile f = ReadNexusString(TwoByFour(
-      "BEGIN OVELT;\nGenome= Triploid;\nChromosomalLocation= Plasmid;\nEND;\n"));
+  const LoadedFile f = ReadNexusString(
+      TwoByFour("BEGIN OVELT;\nGenome= Triploid;\nChromosomalLocation= Plasmid;\nEND;\n"));
   EXPECT_EQ(f.Nexus->Format.GenomeState, 0);
   EXPECT_EQ(f.Nexus->Format.ChromosomalLocation, 0);
   EXPECT_EQ(f.Nexus->Warnings,
@@ -85,9 +87,14 @@ TEST(NexusDocument, BlocksInOrderWithTheTextBetweenThem) {
   EXPECT_FALSE(document.Blocks[1].Read);
   EXPECT_EQ(document.Blocks[2].Text, "BEGIN TREES;\nTREE t = (one,two);\nEND;");
   EXPECT_EQ(document.Trailing, "\n[the end]\n");
-  // Put back together, the pieces give the file.
+  // The block whose matrix was read keeps no text (it is written anew from the data); put back
+  // together with it, the pieces give the file.
+  EXPECT_EQ(document.Blocks[0].Text, "");
+  const std::string data_block =
+      text.substr(text.find("BEGIN DATA"), text.find("END;") + 4 - text.find("BEGIN DATA"));
   std::string rebuilt = "#NEXUS";
-  for (const NexusBlock& block : document.Blocks) rebuilt += block.Leading + block.Text;
+  for (const NexusBlock& block : document.Blocks)
+    rebuilt += block.Leading + (block.Read ? data_block : block.Text);
   EXPECT_EQ(rebuilt + document.Trailing, text);
 }
 
@@ -105,11 +112,11 @@ TEST(NexusDocument, LineEndsOfTheFileBecomeLineFeeds) {
 }
 
 TEST(NexusApply, TheFileSettingsReachTheActiveData) {
-  const LoadedFile f = ReadNexusString(TwoByFour(
-      std::string("BEGIN SETS;\nTaxSet pop = 2;\nCharSet d = 2-3;\nEND;\n"
-                  "BEGIN CODONS;\nCODONPOSSET * U = 1: 1, 2: 2, 3: 3;\nEND;\n"
-                  "BEGIN OVELT;\nGenome= Haploid;\nEND;\n") +
-      kUsageBlock));
+  const LoadedFile f = ReadNexusString(
+      TwoByFour(std::string("BEGIN SETS;\nTaxSet pop = 2;\nCharSet d = 2-3;\nEND;\n"
+                            "BEGIN CODONS;\nCODONPOSSET * U = 1: 1, 2: 2, 3: 3;\nEND;\n"
+                            "BEGIN OVELT;\nGenome= Haploid;\nEND;\n") +
+                kUsageBlock));
   ActiveData ad;
   ad.NumSites = f.NumSites;
   ad.SequenceSets.push_back(PoblacionSecuencias{});  // an older set goes
