@@ -204,8 +204,7 @@ class MatrixReader {
     size_t taken = 0;
     for (;;) {
       const auto room = std::min(n - taken, static_cast<size_t>(shape_.nchar - filled));
-      size_t run = plain_ ? PlainCellRun(text + taken, room) : 0;
-      std::memcpy(row + filled, text + taken, run);
+      size_t run = plain_ ? CopyPlainCells(text + taken, room, row + filled) : 0;
       if (run == 0 && shape_.match != '\0' && t > 0 && Filled(0) > filled) {
         run = SameByteRun(text + taken, std::min(room, static_cast<size_t>(Filled(0) - filled)),
                           shape_.match);

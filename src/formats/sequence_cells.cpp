@@ -9,40 +9,6 @@
 
 namespace ovelt {
 
-// Found sixteen bytes at a time.
-size_t PlainCellRun(const char* p, size_t n) {
-  size_t i = 0;
-#if defined(__SSE2__)
-  const __m128i a = _mm_set1_epi8('A'), c = _mm_set1_epi8('C'), g = _mm_set1_epi8('G');
-  const __m128i t = _mm_set1_epi8('T'), gap = _mm_set1_epi8('-'), missing = _mm_set1_epi8('?');
-  while (i + 16 <= n) {
-    const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + i));
-    const __m128i hit =
-        _mm_or_si128(_mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(v, a), _mm_cmpeq_epi8(v, c)),
-                                  _mm_or_si128(_mm_cmpeq_epi8(v, g), _mm_cmpeq_epi8(v, t))),
-                     _mm_or_si128(_mm_cmpeq_epi8(v, gap), _mm_cmpeq_epi8(v, missing)));
-    const unsigned mask = static_cast<unsigned>(_mm_movemask_epi8(hit));
-    if (mask != 0xFFFFu) return i + static_cast<size_t>(__builtin_ctz(~mask));
-    i += 16;
-  }
-#endif
-  while (i < n) {
-    switch (p[i]) {
-      case 'A':
-      case 'C':
-      case 'G':
-      case 'T':
-      case '-':
-      case '?':
-        ++i;
-        break;
-      default:
-        return i;
-    }
-  }
-  return i;
-}
-
 size_t SameByteRun(const char* p, size_t n, char c) {
   size_t i = 0;
 #if defined(__SSE2__)
@@ -55,6 +21,46 @@ size_t SameByteRun(const char* p, size_t n, char c) {
   }
 #endif
   while (i < n && p[i] == c) ++i;
+  return i;
+}
+
+size_t CopyPlainCells(const char* p, size_t n, char* out) {
+  size_t i = 0;
+#if defined(__SSE2__)
+  const __m128i a = _mm_set1_epi8('A'), c = _mm_set1_epi8('C'), g = _mm_set1_epi8('G');
+  const __m128i t = _mm_set1_epi8('T'), gap = _mm_set1_epi8('-'), missing = _mm_set1_epi8('?');
+  while (i + 16 <= n) {
+    const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + i));
+    const __m128i hit =
+        _mm_or_si128(_mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(v, a), _mm_cmpeq_epi8(v, c)),
+                                  _mm_or_si128(_mm_cmpeq_epi8(v, g), _mm_cmpeq_epi8(v, t))),
+                     _mm_or_si128(_mm_cmpeq_epi8(v, gap), _mm_cmpeq_epi8(v, missing)));
+    const unsigned mask = static_cast<unsigned>(_mm_movemask_epi8(hit));
+    if (mask != 0xFFFFu) {
+      // Short runs (blocks of ten between blanks, as PHYLIP and MEGA write them) are the common
+      // case: copied byte by byte rather than by a call.
+      const size_t run = static_cast<size_t>(__builtin_ctz(~mask));
+      for (size_t k = 0; k < run; ++k) out[i + k] = p[i + k];
+      return i + run;
+    }
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + i), v);
+    i += 16;
+  }
+#endif
+  for (; i < n; ++i) {
+    switch (p[i]) {
+      case 'A':
+      case 'C':
+      case 'G':
+      case 'T':
+      case '-':
+      case '?':
+        out[i] = p[i];
+        break;
+      default:
+        return i;
+    }
+  }
   return i;
 }
 
@@ -99,12 +105,16 @@ struct CellWalker {
 
     const uint8_t* codes = table.code.data();
     while (i < n) {
-      // Runs of cells stored as they are written, copied whole.
+      // Runs of cells stored as they are written, copied whole; a blank between two runs is
+      // passed at once.
       if (table.plain_copies) {
-        const size_t run = PlainCellRun(p + i, std::min(n - i, room - count));
-        std::memcpy(out + count, p + i, run);
+        const size_t run = CopyPlainCells(p + i, std::min(n - i, room - count), out + count);
         count += run;
         i += run;
+        if (i < n && codes[static_cast<unsigned char>(p[i])] == kCellSkip) {
+          ++i;
+          continue;
+        }
       }
       // Runs of plain cells, eight at a time: the common case of every sequence line.
       while (i + 8 <= n && count + 8 <= room) {

@@ -91,9 +91,9 @@ struct WalkResult {
 [[nodiscard]] WalkResult WalkCells(const CellTable& table, std::string_view text,
                                    SequenceCells& cells, const MatchRule& match, WalkState& state);
 
-// The length of the run of A, C, G, T, "-" and "?" that opens `text` (at most `n` bytes): cells
-// that a table with `plain_copies` stores as they stand, so that the run can be copied whole.
-[[nodiscard]] size_t PlainCellRun(const char* text, size_t n);
+// Copies the run of A, C, G, T, "-" and "?" that opens `text` (at most `n` bytes) to `out`, which
+// holds at least `n`; its length.
+size_t CopyPlainCells(const char* text, size_t n, char* out);
 
 // The length of the run of `c` that opens `text` (at most `n` bytes).
 [[nodiscard]] size_t SameByteRun(const char* text, size_t n, char c);
