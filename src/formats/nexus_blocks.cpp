@@ -33,7 +33,7 @@ void ReadCommands(NexusLexer& lexer, bool keep, std::vector<NexusCommand>& comma
     if (matrix) {
       // The cells are read later from the text: here only their end is wanted.
       const size_t from = lexer.pos();
-      if (lexer.SkipToSemicolon()) {
+      if (lexer.SkipToSemicolon(passed)) {
         if (passed) passed(from, lexer.pos());
         const NexusToken semicolon = lexer.Next();
         command.matrix_end = semicolon.begin;

@@ -1,5 +1,6 @@
 #include "formats/nexus_lexer.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "core/text_case.h"
@@ -93,9 +94,26 @@ size_t NextStop(std::string_view text, size_t pos) {
 
 // A quotation mark is punctuation, so it always opens a token: every other character, words and
 // punctuation alike, is passed over until a ";" outside comments and quoted names.
-bool NexusLexer::SkipToSemicolon() {
+bool NexusLexer::SkipToSemicolon(const std::function<void(size_t, size_t)>& passed) {
+  constexpr size_t kStep = size_t{2} << 20;
+  size_t told = pos_;
   for (;;) {
-    pos_ = NextStop(text_, pos_);
+    if (passed) {
+      // In steps, so that a long run without a stop still tells as it goes.
+      while (true) {
+        const size_t to = std::min(text_.size(), told + kStep);
+        const size_t stop = NextStop(text_.substr(0, to), pos_);
+        if (stop < to || to == text_.size()) {
+          pos_ = stop;
+          break;
+        }
+        pos_ = to;
+        passed(told, to);
+        told = to;
+      }
+    } else {
+      pos_ = NextStop(text_, pos_);
+    }
     if (pos_ >= text_.size()) return false;
     const char c = text_[pos_];
     if (c == ';') return true;

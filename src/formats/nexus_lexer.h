@@ -9,6 +9,7 @@
 // single quotes is (SYMBOLS="ACGT").
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -49,8 +50,9 @@ class NexusLexer {
 
   // Moves to the next ";" token (not taken) past every other token, comment and quoted name,
   // without making the tokens: the fast way over a MATRIX. True when one was found; otherwise
-  // the position is the end of the text.
-  bool SkipToSemicolon();
+  // the position is the end of the text. `passed`, when given, is told every few megabytes of
+  // the part [from, to) passed over.
+  bool SkipToSemicolon(const std::function<void(size_t, size_t)>& passed = {});
 
  private:
   void SkipBlanksAndComments();

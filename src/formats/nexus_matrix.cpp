@@ -4,6 +4,10 @@
 #include <array>
 #include <cstring>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 #include "formats/nexus_errors.h"
 #include "formats/sequence_cells.h"
 
@@ -35,6 +39,25 @@ CellCodes MakeCellCodes(const NexusMatrixShape& shape) {
   SetBothCases(codes, shape.missing, '?');
   if (shape.match != '\0') SetBothCases(codes, shape.match, kMatch);
   return codes;
+}
+
+// The first "\n" or "[" at or after `pos` (the end of the text when none): one pass finds both
+// the end of a line and whether a comment opens in it.
+size_t LineEndOrComment(std::string_view text, size_t pos) {
+  const char* p = text.data();
+  const size_t n = text.size();
+#if defined(__SSE2__)
+  const __m128i lf = _mm_set1_epi8('\n'), open = _mm_set1_epi8('[');
+  while (pos + 16 <= n) {
+    const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + pos));
+    const auto mask = static_cast<unsigned>(
+        _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(v, lf), _mm_cmpeq_epi8(v, open))));
+    if (mask != 0) return pos + static_cast<size_t>(__builtin_ctz(mask));
+    pos += 16;
+  }
+#endif
+  while (pos < n && p[pos] != '\n' && p[pos] != '[') ++pos;
+  return pos;
 }
 
 // True when A, C, G, T, "-" and "?" are each stored as themselves.
@@ -232,10 +255,8 @@ class MatrixReader {
   // itself when the line holds no comment, else a copy in `copy`.
   std::string_view NextLine(size_t& p, std::string& copy) const {
     const size_t from = p;
-    const void* lf = std::memchr(text_.data() + p, '\n', text_.size() - p);
-    const size_t end =
-        lf ? static_cast<size_t>(static_cast<const char*>(lf) - text_.data()) : text_.size();
-    if (std::memchr(text_.data() + p, '[', end - p) == nullptr) {
+    const size_t end = LineEndOrComment(text_, p);
+    if (end == text_.size() || text_[end] == '\n') {
       p = end < text_.size() ? end + 1 : end;
       return text_.substr(from, end - from);
     }
