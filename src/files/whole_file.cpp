@@ -101,7 +101,9 @@ class WholeFileWriter::Buffer : public std::streambuf {
 WholeFileWriter::WholeFileWriter(std::string target)
     : target_(std::move(target)), stream_(std::make_unique<std::ostream>(nullptr)) {}
 
-WholeFileWriter::~WholeFileWriter() { Discard(); }
+WholeFileWriter::~WholeFileWriter() {
+  Discard();
+}
 
 bool WholeFileWriter::Open() {
   Discard();
@@ -137,9 +139,13 @@ bool WholeFileWriter::Open() {
   return true;
 }
 
-std::ostream& WholeFileWriter::Stream() { return *stream_; }
+std::ostream& WholeFileWriter::Stream() {
+  return *stream_;
+}
 
-bool WholeFileWriter::IsOpen() const { return fd_ >= 0; }
+bool WholeFileWriter::IsOpen() const {
+  return fd_ >= 0;
+}
 
 bool WholeFileWriter::Flush() {
   if (fd_ < 0) return false;
@@ -150,13 +156,13 @@ bool WholeFileWriter::Flush() {
   return true;
 }
 
-bool WholeFileWriter::Commit() {
+bool WholeFileWriter::Commit(Durability durability) {
   if (!Flush()) {
     Discard();
     return false;
   }
   const bool direct = temporary_.empty();
-  const bool synced = direct || ::fsync(fd_) == 0;
+  const bool synced = direct || durability == Durability::kRenamedOnly || ::fsync(fd_) == 0;
   const bool closed = ::close(fd_) == 0;
   fd_ = -1;
   stream_->rdbuf(nullptr);
@@ -170,7 +176,7 @@ bool WholeFileWriter::Commit() {
     return false;
   }
   temporary_.clear();
-  SyncDirectory(ParentOf(destination_));
+  if (durability == Durability::kSynced) SyncDirectory(ParentOf(destination_));
   return true;
 }
 
@@ -183,11 +189,11 @@ void WholeFileWriter::Discard() {
   temporary_.clear();
 }
 
-bool WriteWholeFile(const std::string& path, std::string_view bytes) {
+bool WriteWholeFile(const std::string& path, std::string_view bytes, Durability durability) {
   WholeFileWriter file(path);
   if (!file.Open()) return false;
   file.Stream().write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  return file.Commit();
+  return file.Commit(durability);
 }
 
 }  // namespace ovelt

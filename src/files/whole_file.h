@@ -17,6 +17,13 @@
 
 namespace ovelt {
 
+// How far a committed file is taken before Commit returns. Both replace the file whole, by one
+// rename; kSynced also waits until the bytes and the rename are on the disk (data files, and
+// anything a crash must not take back), kRenamedOnly leaves that to the system (a list of
+// recent files, rewritten at every open: a script opening thousands of files should not wait
+// on the disk each time).
+enum class Durability { kSynced, kRenamedOnly };
+
 class WholeFileWriter {
  public:
   explicit WholeFileWriter(std::string target);
@@ -30,8 +37,9 @@ class WholeFileWriter {
   [[nodiscard]] std::ostream& Stream();
   // Hands the buffered bytes to the system (without waiting for the disk); false on failure.
   [[nodiscard]] bool Flush();
-  // Flushes, syncs and renames over the target; false (target untouched) on any failure.
-  [[nodiscard]] bool Commit();
+  // Flushes, syncs (unless kRenamedOnly) and renames over the target; false (target untouched)
+  // on any failure.
+  [[nodiscard]] bool Commit(Durability durability = Durability::kSynced);
   // Removes the temporary file; the target stays as it was.
   void Discard();
 
@@ -49,6 +57,7 @@ class WholeFileWriter {
 };
 
 // Writes `bytes` as the whole of `path`; false (the old file untouched) on any failure.
-[[nodiscard]] bool WriteWholeFile(const std::string& path, std::string_view bytes);
+[[nodiscard]] bool WriteWholeFile(const std::string& path, std::string_view bytes,
+                                  Durability durability = Durability::kSynced);
 
 }  // namespace ovelt

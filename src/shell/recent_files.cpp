@@ -74,12 +74,16 @@ void RecentFiles::fActualizaCFA(const std::string& path, int index) {
           Trim(entries_[static_cast<size_t>(k)]) == wanted)
         found = k;
   }
-  const std::string top = (index > 0 && index <= 4) ? entries_[static_cast<size_t>(index)]
-                                                    : Trim(path);
+  const std::string top =
+      (index > 0 && index <= 4) ? entries_[static_cast<size_t>(index)] : Trim(path);
   // Entries above the one found move down by one; when none was found the fourth falls off.
   const int last = found == 0 ? 4 : found;
-  for (int k = last; k > 1; --k) entries_[static_cast<size_t>(k)] = entries_[static_cast<size_t>(k - 1)];
+  const std::array<std::string, 5> before = entries_;
+  for (int k = last; k > 1; --k)
+    entries_[static_cast<size_t>(k)] = entries_[static_cast<size_t>(k - 1)];
   entries_[1] = top;
+  // The list as it was read, opened again at its top: the file already says so.
+  if (entries_ == before && !store_path_.empty()) return;
 
   // The program's directory first, the user's configuration directory second.
   int first_error = 0;
@@ -116,7 +120,9 @@ bool RecentFiles::WriteTo(const std::string& file_path) const {
     const std::string& entry = entries_[static_cast<size_t>(k)];
     if (!entry.empty()) text += entry + "\r\n";
   }
-  return WriteWholeFile(file_path, text);
+  // Replaced whole by a rename, but not waited for on the disk: the list is rewritten at every
+  // open, and a crash can at worst take back its last change.
+  return WriteWholeFile(file_path, text, Durability::kRenamedOnly);
 }
 
 }  // namespace ovelt

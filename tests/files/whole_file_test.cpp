@@ -41,6 +41,15 @@ TEST(WholeFile, WritesANewFileAndLeavesNothingElseBehind) {
   EXPECT_EQ(NamesIn(dir), std::vector<std::string>{"new.txt"});
 }
 
+TEST(WholeFile, ARenameWithoutSyncStillReplacesTheFileWhole) {
+  TempDir dir;
+  const std::string path = dir.File("list.ini");
+  ASSERT_TRUE(WriteWholeFile(path, "old\r\n"));
+  ASSERT_TRUE(WriteWholeFile(path, "new\r\n", Durability::kRenamedOnly));
+  EXPECT_EQ(ReadBytes(path), "new\r\n");
+  EXPECT_EQ(NamesIn(dir), std::vector<std::string>{"list.ini"});
+}
+
 TEST(WholeFile, ReplacesAnOldFileAndKeepsItsPermissions) {
   TempDir dir;
   const std::string path = dir.Write("old.txt", "old bytes that are longer than the new ones");
@@ -116,15 +125,14 @@ TEST(WholeFile, AProcessKilledMidWriteLeavesTheOldFileByteForByte) {
   const std::string old_bytes = Numbered(5000);
   const std::string path = dir.Write("data.txt", old_bytes);
   for (uint64_t limit : {0ull, 100ull, 65536ull, 131073ull, 299999ull}) {
-    const auto end = RunWithWriteLimit(limit, WriteFault::kKilled, [&] {
-      return WriteWholeFile(path, Numbered(300000)) ? 0 : 3;
-    });
+    const auto end = RunWithWriteLimit(
+        limit, WriteFault::kKilled, [&] { return WriteWholeFile(path, Numbered(300000)) ? 0 : 3; });
     EXPECT_TRUE(end.killed) << "limit " << limit;
     EXPECT_EQ(ReadBytes(path), old_bytes) << "limit " << limit;
   }
   // With room for every byte the same write goes through.
-  const auto end = RunWithWriteLimit(300000, WriteFault::kKilled,
-                                     [&] { return WriteWholeFile(path, Numbered(300000)) ? 0 : 3; });
+  const auto end = RunWithWriteLimit(
+      300000, WriteFault::kKilled, [&] { return WriteWholeFile(path, Numbered(300000)) ? 0 : 3; });
   EXPECT_TRUE(end.exited && end.code == 0);
   EXPECT_EQ(ReadBytes(path), Numbered(300000));
 }

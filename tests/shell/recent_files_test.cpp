@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <fstream>
@@ -56,6 +57,34 @@ TEST(RecentFiles, KnownPathMovesUpAndOthersShiftDown) {
   EXPECT_EQ(recent.Entry(2), "/b");
   EXPECT_EQ(recent.Entry(3), "/d");
   EXPECT_EQ(recent.Entry(4), "/c");
+}
+
+TEST(RecentFiles, TheListAsItWasReadIsNotWrittenAgain) {
+  TempDir dir;
+  ScriptedPlatform p;
+  p.ProgramDir = dir.Path().string();
+  {
+    RecentFiles recent(p);
+    for (const char* path : {"/a", "/b"}) recent.fActualizaCFA(path, 0);
+  }
+  const std::string file = dir.File("OVELTCFA.INI");
+  const auto inode = [&] {
+    struct stat info {};
+    ::stat(file.c_str(), &info);
+    return info.st_ino;
+  };
+  const auto written = inode();
+  // A new run reads the list and opens its first file again: the file stays as it is (a rewrite
+  // would rename a new file over it).
+  RecentFiles again(p);
+  again.fConsultaCFA();
+  again.fActualizaCFA("/b", 0);
+  EXPECT_EQ(inode(), written);
+  EXPECT_EQ(again.Entry(1), "/b");
+  // Another file changes the list, and the file is replaced.
+  again.fActualizaCFA("/c", 0);
+  EXPECT_NE(inode(), written);
+  EXPECT_EQ(ReadAll(file), "/c\r\n/b\r\n/a\r\n");
 }
 
 TEST(RecentFiles, ConsultaReadsAtMostFourLines) {
