@@ -3,20 +3,17 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <random>
 #include <string>
 
 #include "formats/cell_rules.h"
 #include "formats/read_file.h"
 #include "support/scripted_platform.h"
+#include "support/temp_dir.h"
 #include "test_helpers.h"
 
 namespace ovelt {
 namespace {
-
-namespace fs = std::filesystem;
 
 // A random interleaved NEXUS matrix in blocks of 60 (some later blocks with the matching
 // symbol, a comment and a name written otherwise), with `eol` as line end.
@@ -53,17 +50,7 @@ std::string RandomNexus(std::mt19937& rng, int ntax, int nchar, const std::strin
 
 class MappedRead : public ::testing::Test {
  protected:
-  void SetUp() override {
-    dir_ = fs::temp_directory_path() / ("ovelt_mapped_" + std::to_string(std::random_device{}()));
-    fs::create_directories(dir_);
-  }
-  void TearDown() override { fs::remove_all(dir_); }
-  std::string Write(const std::string& name, const std::string& bytes) {
-    const fs::path path = dir_ / name;
-    std::ofstream(path, std::ios::binary) << bytes;
-    return path.string();
-  }
-  fs::path dir_;
+  testing::TempDir dir_;
   testing::ScriptedPlatform platform_;
 };
 
@@ -84,7 +71,7 @@ TEST_F(MappedRead, NexusFromDiskEqualsTheSameBytesFromMemoryWithEitherLineEnd) {
     // Over 2 MB of matrix, so that its pages are given back while it is read.
     const std::string text = RandomNexus(rng, 40, 80000, eol);
     ASSERT_GT(text.size(), size_t{3} << 20);
-    const LoadedFile disk = ReadDataFile(Write("m.nex", text), platform_);
+    const LoadedFile disk = ReadDataFile(dir_.Write("m.nex", text), platform_);
     const LoadedFile memory = ReadDataBuffer(text, "m.nex");
     ExpectSameFile(disk, memory);
     EXPECT_EQ(disk.Nexus->Format.Interleaved, 1);
@@ -103,7 +90,7 @@ TEST_F(MappedRead, LargeFastaFromDiskEqualsTheSameBytesFromMemory) {
     text += "\n";
   }
   ASSERT_GT(text.size(), size_t{5} << 20);
-  const LoadedFile disk = ReadDataFile(Write("big.fas", text), platform_);
+  const LoadedFile disk = ReadDataFile(dir_.Write("big.fas", text), platform_);
   const LoadedFile memory = ReadDataBuffer(text, "big.fas");
   ExpectSameFile(disk, memory);
 }
