@@ -7,48 +7,18 @@ namespace ovelt {
 
 namespace {
 
-// Counts of A, C, G, T at one site; `gap` is set, and counting stops, at the first cell that is
-// not a nucleotide.
-struct NucleotideCounts {
-  std::array<int32_t, 4> count{};
-  bool gap = false;
-};
-
-NucleotideCounts CountColumn(const SeqMatrix& matrix, int32_t site, int32_t seqs) {
-  NucleotideCounts counts;
-  for (int32_t seq = 1; seq <= seqs; ++seq) {
-    switch (matrix.at(site, seq)) {
-      case 'A':
-        ++counts.count[0];
-        break;
-      case 'C':
-        ++counts.count[1];
-        break;
-      case 'G':
-        ++counts.count[2];
-        break;
-      case 'T':
-        ++counts.count[3];
-        break;
-      default:
-        counts.gap = true;
-        return counts;
-    }
-  }
-  return counts;
-}
-
-int16_t ClassOf(const NucleotideCounts& counts) {
-  if (counts.gap) return kGapOrMissing;
-  const auto zeros = std::count(counts.count.begin(), counts.count.end(), 0);
+// The class a site's counts give: 5 when any cell is not a nucleotide, otherwise by the number
+// of nucleotides present, two of them split by whether one is carried once.
+int16_t ClassOf(const std::array<int32_t, 4>& count, bool gap) {
+  if (gap) return kGapOrMissing;
+  const auto zeros = std::count(count.begin(), count.end(), 0);
   switch (zeros) {
     case 0:
       return kFourVariants;
     case 1:
       return kThreeVariants;
     case 2: {
-      const bool singleton =
-          std::find(counts.count.begin(), counts.count.end(), 1) != counts.count.end();
+      const bool singleton = std::find(count.begin(), count.end(), 1) != count.end();
       return singleton ? kSingletonSite : kInformativeSite;
     }
     default:
@@ -73,21 +43,18 @@ int16_t ClassifyColumn(const SeqMatrix& matrix, int32_t site, int32_t seqs) {
   int32_t seq = 2;
   while (seq <= seqs && matrix.at(site, seq) == first) ++seq;
   if (seq > seqs) return kMonomorphic;
-  return ClassOf(CountColumn(matrix, site, seqs));
+  return ClassFromCounts(CountSitePlain(matrix, seqs, site), seqs);
 }
 
 int16_t ClassifySubsetColumn(const SeqMatrix& matrix, int32_t site, int32_t seqs,
                              int16_t wider_class, int16_t gaps_in_sets) {
   if (wider_class == kMonomorphic) return kMonomorphic;
   if (wider_class == kGapOrMissing && gaps_in_sets == 2) return kGapOrMissing;
-  return ClassOf(CountColumn(matrix, site, seqs));
+  return ClassFromCounts(CountSitePlain(matrix, seqs, site), seqs);
 }
 
 int16_t ClassFromCounts(const SiteCounts& counts, int32_t seqs) {
-  NucleotideCounts nucleotides;
-  nucleotides.count = counts.nucleotide;
-  nucleotides.gap = counts.nucleotides() < seqs;
-  return ClassOf(nucleotides);
+  return ClassOf(counts.nucleotide, counts.nucleotides() < seqs);
 }
 
 void ClassifyAllSites(ActiveData& ad) {

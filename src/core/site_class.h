@@ -12,8 +12,8 @@
 namespace ovelt {
 
 // Class of one site over all `seqs` sequences of `matrix`, from scratch: the first cell decides
-// a gap at once, a site whose cells all equal the first is monomorphic, otherwise the four
-// nucleotides are counted and the first gap or missing cell makes it class 5.
+// a gap at once, a site whose cells all equal the first is monomorphic, otherwise its
+// cells are counted and any gap or missing cell makes it class 5.
 [[nodiscard]] int16_t ClassifyColumn(const SeqMatrix& matrix, int32_t site, int32_t seqs);
 
 // Class of one site over the sequences of a subset, given its class over a larger set
